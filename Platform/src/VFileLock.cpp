@@ -1,0 +1,191 @@
+#include "VFileLock.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <climits>
+#include <cstring>
+#include <ctime>
+
+#include "Deadline.h"
+#include "ErrnoKeeper.h"
+#include "VPlatformConfig.h"
+
+namespace {
+
+/// A lock is held for a few microseconds; the first waits are about as short as a sleep can be.
+constexpr long kFirstPauseNanoseconds = 20'000;
+constexpr long kLongestPauseNanoseconds = 1'000'000;
+
+// Neither is an object with a destructor, so both serve until the last call of the process.
+char lockDirectory[PATH_MAX] = "";
+std::atomic<mode_t> lockFileMode{0600};
+
+std::string Located(const std::string& name) {
+  const bool relative = name.empty() || name[0] != '/';
+  return relative && lockDirectory[0] != '\0' ? std::string(lockDirectory) + "/" + name : name;
+}
+
+int OpenExisting(const char* name) {
+  // Not blocking: a FIFO by that name would hold us until somebody opened its other end.
+  return open(name, O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
+}
+
+/// Creates the file, exclusively, so that only its creator sets its mode.
+int Create(const char* name) {
+  const mode_t mode = lockFileMode.load(std::memory_order_relaxed);
+  const int descriptor =
+      open(name, O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW | O_NOCTTY, mode);
+  if (descriptor >= 0) {
+    fchmod(descriptor, mode);  // The umask may have taken bits away that the host asked for.
+  }
+  return descriptor;
+}
+
+/// Opens the file, creating it if it is missing. An existing one is opened without asking for its
+/// creation, as systems may refuse that for another user's file in a shared directory.
+int OpenOrCreate(const char* name) {
+  int descriptor = OpenExisting(name);
+  if (descriptor < 0 && errno == ENOENT) {
+    descriptor = Create(name);
+    if (descriptor < 0 && errno == EEXIST) {
+      descriptor = OpenExisting(name);  // Another process was faster.
+    }
+  }
+  return descriptor;
+}
+
+/// Waits for the lock by asking again and again: a blocking request could only be ended by a
+/// signal, and signals belong to the host.
+bool LockInTime(int descriptor, int operation) {
+  if (flock(descriptor, operation | LOCK_NB) == 0) {
+    return true;
+  }
+  const Deadline deadline(kLongestWaitMilliseconds);
+  long pause = kFirstPauseNanoseconds;
+  while ((errno == EWOULDBLOCK || errno == EINTR) && !deadline.Passed()) {
+    const timespec duration = {0, pause};
+    nanosleep(&duration, nullptr);
+    pause = std::min(2 * pause, kLongestPauseNanoseconds);
+    if (flock(descriptor, operation | LOCK_NB) == 0) {
+      return true;
+    }
+  }
+  return false;
+}
+
+/// Calls `attempt` until it is not interrupted, or has been for longer than anybody should wait.
+template <typename Attempt>
+auto Uninterrupted(Attempt attempt) {
+  auto result = attempt();
+  if (result < 0 && errno == EINTR) {
+    const Deadline deadline(kLongestWaitMilliseconds);
+    while (result < 0 && errno == EINTR && !deadline.Passed()) {
+      result = attempt();
+    }
+  }
+  return result;
+}
+
+/// Calls `transfer(bytes done, bytes left)` until all is done, nothing moves any more or it fails.
+/// Returns the number of bytes moved, or -1 if there were none because of a failure.
+template <typename Transfer>
+int TransferAll(int length, Transfer transfer) {
+  int done = 0;
+  while (done < length) {
+    const ssize_t moved =
+        Uninterrupted([&] { return transfer(done, static_cast<std::size_t>(length - done)); });
+    if (moved <= 0) {
+      return moved < 0 && done == 0 ? -1 : done;
+    }
+    done += static_cast<int>(moved);
+  }
+  return done;
+}
+
+}  // namespace
+
+VFileLock::VFileLock(const std::string& name) : name_(Located(name)) {}
+
+VFileLock::~VFileLock() = default;
+
+int VFileLock::Read(char* buffer, int length) {
+  if (descriptor_ < 0 || buffer == nullptr || length < 0) {
+    return -1;
+  }
+  const ErrnoKeeper keeper;
+  // No further than the end of the file, which saves asking once more just to hear so.
+  const int available = static_cast<int>(std::min<long>(length, size_));
+  return TransferAll(available, [&](int done, std::size_t left) {
+    return pread(descriptor_, buffer + done, left, done);
+  });
+}
+
+int VFileLock::Write(const char* data, int length) {
+  if (descriptor_ < 0 || data == nullptr || length < 0) {
+    return -1;
+  }
+  const ErrnoKeeper keeper;
+  const int written = TransferAll(length, [&](int done, std::size_t left) {
+    return pwrite(descriptor_, data + done, left, done);
+  });
+  if (written == length && size_ > length &&
+      Uninterrupted([&] { return ftruncate(descriptor_, length); }) != 0) {
+    return -1;
+  }
+  size_ = written == length ? length : std::max<long>(size_, written);
+  return written;
+}
+
+VFileLockGuard::VFileLockGuard(VFileLock& file) : file_(file) {}
+
+VFileLockGuard::~VFileLockGuard() {
+  if (locked_) {
+    const ErrnoKeeper keeper;
+    close(file_.descriptor_);  // Which gives the lock back.
+    file_.descriptor_ = -1;
+  }
+}
+
+bool VFileLockGuard::LockShared() { return Lock(LOCK_SH); }
+
+bool VFileLockGuard::LockExclusive() { return Lock(LOCK_EX); }
+
+bool VFileLockGuard::Lock(int operation) {
+  if (file_.descriptor_ >= 0) {
+    return false;
+  }
+  const ErrnoKeeper keeper;
+  const int descriptor = OpenOrCreate(file_.name_.c_str());
+  if (descriptor < 0) {
+    return false;
+  }
+  struct stat status;
+  const bool locked = LockInTime(descriptor, operation) && fstat(descriptor, &status) == 0 &&
+                      S_ISREG(status.st_mode);
+  if (!locked) {
+    close(descriptor);
+    return false;
+  }
+  file_.descriptor_ = descriptor;
+  file_.size_ = status.st_size;
+  locked_ = true;
+  return true;
+}
+
+bool VPlatformConfig::SetLockFileDirectory(const std::string& directory) {
+  if (directory.size() >= sizeof lockDirectory) {
+    return false;
+  }
+  std::memcpy(lockDirectory, directory.c_str(), directory.size() + 1);
+  return true;
+}
+
+void VPlatformConfig::SetLockFileMode(unsigned int mode) {
+  lockFileMode.store(static_cast<mode_t>(mode), std::memory_order_relaxed);
+}

@@ -5,5 +5,5 @@
 // Included again on purpose: it must guard itself.
 #include "VMetrics.h"
 
-int (*const use)(int, const char*, const char*, const char*, const char*, int) =
-    &VMetrics::InsertRecord;
+int (*const use)(int, const char*, const char*, const char*, const char*,
+                 int) = &VMetrics::InsertRecord;

@@ -15,10 +15,12 @@ struct Handler {
   using string_view = boost::json::string_view;
   using error_code = boost::json::error_code;
 
+  // NOLINTBEGIN(readability-identifier-naming)
   static constexpr std::size_t max_object_size = static_cast<std::size_t>(-1);
   static constexpr std::size_t max_array_size = static_cast<std::size_t>(-1);
   static constexpr std::size_t max_key_size = static_cast<std::size_t>(-1);
   static constexpr std::size_t max_string_size = static_cast<std::size_t>(-1);
+  // NOLINTEND(readability-identifier-naming)
 
   bool on_document_begin(error_code&) { return true; }
   bool on_document_end(error_code&) { return true; }

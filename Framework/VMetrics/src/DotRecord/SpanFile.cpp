@@ -46,7 +46,7 @@ std::string VMetrics::GetCurrentParentSpanId() {
   if (!guard.LockShared()) {
     return kParentSpanIdPlaceholder;
   }
-  const std::string parentSpanId = ReadSpanFile(file);
+  std::string parentSpanId = ReadSpanFile(file);
   VMETRICS_LOG(kDotRecordSource, kLogInformation, "parentSpanId = %s", parentSpanId.c_str());
   return parentSpanId;
 }

@@ -41,15 +41,14 @@ bool SplitDefinition(char* msg, const char* function, Definition& definition) {
     return false;
   }
   char* rest = nullptr;
-  char* text = msg;
-  for (const char** field :
-       {&definition.id, &definition.type, &definition.name, &definition.privateFlag}) {
-    *field = strtok_s(text, ";", &rest);
-    if (*field == nullptr) {
-      VMETRICS_LOG_AS(kVMetricsSource, function, kLogError, "strtok_s parse failed");
-      return false;
-    }
-    text = nullptr;
+  definition.id = strtok_s(msg, ";", &rest);
+  definition.type = strtok_s(nullptr, ";", &rest);
+  definition.name = strtok_s(nullptr, ";", &rest);
+  definition.privateFlag = strtok_s(nullptr, ";", &rest);
+  if (definition.id == nullptr || definition.type == nullptr || definition.name == nullptr ||
+      definition.privateFlag == nullptr) {
+    VMETRICS_LOG_AS(kVMetricsSource, function, kLogError, "strtok_s parse failed");
+    return false;
   }
   return true;
 }

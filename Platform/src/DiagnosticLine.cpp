@@ -74,9 +74,8 @@ void DiagnosticLine::AppendTag(const char* text) {
 
 void DiagnosticLine::AppendMessage(const char* format, std::va_list arguments) {
   char message[kLongestLine];
-  const char* const text = OrUnknown(format);
-  if (std::vsnprintf(message, sizeof message, text, arguments) < 0) {
-    std::snprintf(message, sizeof message, "%s", text);  // An argument that cannot be converted.
+  if (std::vsnprintf(message, sizeof message, format, arguments) < 0) {
+    std::snprintf(message, sizeof message, "%s", format);  // An argument that cannot be converted.
   }
   AppendEscaped(" ", kLongestLine);
   AppendEscaped(message, kLongestLine - kRoomForSource);

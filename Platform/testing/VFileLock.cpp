@@ -57,7 +57,8 @@ bool VFileLockGuard::Lock(int) {
   if (refused) {
     return false;
   }
-  TheState().files[file_.name_];  // Locking creates a missing file.
+  const std::string& content = TheState().files[file_.name_];  // Made if it is missing.
+  file_.size_ = static_cast<long>(content.size());
   file_.descriptor_ = 0;
   locked_ = true;
   return true;

@@ -9,12 +9,20 @@
 /// a reader that does not read must not freeze the others.
 constexpr long kLongestWaitMilliseconds = 100;
 
+/// Starts when it is first asked, so that what is not kept waiting does not even look at the clock.
 class Deadline {
  public:
-  explicit Deadline(long milliseconds) : end_(Milliseconds(CLOCK_MONOTONIC) + milliseconds) {}
+  explicit Deadline(long milliseconds) : allowed_(milliseconds) {}
 
-  bool Passed() const { return MillisecondsLeft() == 0; }
-  long MillisecondsLeft() const { return std::max(end_ - Milliseconds(CLOCK_MONOTONIC), 0L); }
+  bool Passed() { return MillisecondsLeft() == 0; }
+
+  long MillisecondsLeft() {
+    const long now = Milliseconds(CLOCK_MONOTONIC);
+    if (end_ == 0) {
+      end_ = now + allowed_;
+    }
+    return std::max(end_ - now, 0L);
+  }
 
   /// The reading of a clock.
   static long Milliseconds(clockid_t clock) {
@@ -24,7 +32,8 @@ class Deadline {
   }
 
  private:
-  long end_;
+  long allowed_;
+  long end_ = 0;
 };
 
 #endif  // PLATFORM_DEADLINE_H_

@@ -11,7 +11,6 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
-#include <optional>
 #include <system_error>
 
 #include "Deadline.h"
@@ -43,13 +42,8 @@ bool HasFileSizeLimit() {
   return getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY;
 }
 
-/// The deadline, which starts when it is first asked for: most lines never ask.
-const Deadline& Started(std::optional<Deadline>& deadline) {
-  return deadline ? *deadline : deadline.emplace(kLongestWaitMilliseconds);
-}
-
 /// Waits until `descriptor` takes something without blocking; false when the deadline came first.
-bool WaitWritable(int descriptor, const Deadline& deadline) {
+bool WaitWritable(int descriptor, Deadline& deadline) {
   pollfd request = {descriptor, POLLOUT, 0};
   int ready = 0;
   do {
@@ -218,10 +212,10 @@ int LineChannel::WriteLine(const char* text, std::size_t length) {
 
 /// Returns 0 once the line is out, otherwise the error number that ended it.
 int LineChannel::Push(Line& line) {
-  std::optional<Deadline> deadline;
+  Deadline deadline(kLongestWaitMilliseconds);
   while (line.Left() > 0) {
     const Kind kind = kind_;
-    if (kind == Kind::kStream && !WaitWritable(descriptor_, Started(deadline))) {
+    if (kind == Kind::kStream && !WaitWritable(descriptor_, deadline)) {
       return EAGAIN;
     }
     const long written = WritePiece(kind, line);
@@ -234,7 +228,7 @@ int LineChannel::Push(Line& line) {
     }
     const int error = written == 0 ? EIO : errno;
     const bool passing = error == EINTR || (error == EAGAIN && kind == Kind::kStream);
-    if (!passing || Started(deadline).Passed()) {
+    if (!passing || deadline.Passed()) {
       return error;
     }
   }

@@ -66,7 +66,7 @@ bool LockInTime(int descriptor, int operation) {
   if (flock(descriptor, operation | LOCK_NB) == 0) {
     return true;
   }
-  const Deadline deadline(kLongestWaitMilliseconds);
+  Deadline deadline(kLongestWaitMilliseconds);
   long pause = kFirstPauseNanoseconds;
   while ((errno == EWOULDBLOCK || errno == EINTR) && !deadline.Passed()) {
     const timespec duration = {0, pause};
@@ -82,12 +82,10 @@ bool LockInTime(int descriptor, int operation) {
 /// Calls `attempt` until it is not interrupted, or has been for longer than anybody should wait.
 template <typename Attempt>
 auto Uninterrupted(Attempt attempt) {
+  Deadline deadline(kLongestWaitMilliseconds);
   auto result = attempt();
-  if (result < 0 && errno == EINTR) {
-    const Deadline deadline(kLongestWaitMilliseconds);
-    while (result < 0 && errno == EINTR && !deadline.Passed()) {
-      result = attempt();
-    }
+  while (result < 0 && errno == EINTR && !deadline.Passed()) {
+    result = attempt();
   }
   return result;
 }

@@ -11,6 +11,8 @@
 #ifndef VJSON_H_
 #define VJSON_H_
 
+#include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -28,9 +30,9 @@ namespace VJson {
 class Value {
  public:
   Value();
-  // Copies only: a value that was moved from would have no text at all.
-  Value(const Value&) = default;
-  Value& operator=(const Value&) = default;
+  // A value is never moved, as one without a text would be left behind; it is small enough to copy.
+  Value(const Value& other);
+  Value& operator=(const Value& other);
 
   /// Adds a member. A value that is not an object, which only Parse can make, takes none and stays
   /// as it is. A null text counts as an empty one.
@@ -55,15 +57,25 @@ class Value {
   bool Parse(const std::string& text);
 
   /// The JSON text.
-  std::string ToString() const&;
-  /// The JSON text, moved out of a value that is not needed any more and is the empty object then.
-  std::string ToString() &&;
+  std::string ToString() const;
 
  private:
-  template <typename AppendValue>
-  void AddMember(std::string_view key, AppendValue appendValue);
+  template <typename WriteValue>
+  void AddMember(std::string_view key, std::size_t room, WriteValue writeValue);
+  template <typename Number>
+  void AddNumber(std::string_view key, Number value);
+  void AddString(std::string_view key, std::string_view value);
+  void AddText(std::string_view key, std::string_view json);
 
-  std::string text_;
+  std::string_view Text() const;
+  char* Reserve(std::size_t capacity);
+
+  // A value is its own text, {"a":1,"b":2}, complete at any time. A usual record fits into the
+  // value itself, so that building one allocates nothing.
+  std::size_t size_;
+  std::size_t capacity_;
+  std::unique_ptr<char[]> longText_;  ///< Null while the text fits into shortText_.
+  char shortText_[512];
 };
 
 }  // namespace VJson

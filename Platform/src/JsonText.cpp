@@ -3,6 +3,8 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 
 #include "Utf8.h"
 
@@ -10,17 +12,67 @@ namespace {
 
 constexpr std::string_view kReplacementCharacter = "\xEF\xBF\xBD";  // U+FFFD in UTF-8.
 
-/// Whether a byte goes into a JSON string as it stands, without another look.
-constexpr std::array<bool, 256> MakePlainBytes() {
-  std::array<bool, 256> plain{};
-  for (std::size_t byte = 0x20; byte < 0x7F; ++byte) {
-    plain[byte] = byte != '"' && byte != '\\';
+/// The most bytes that each byte of a text can take up in a JSON string. What takes up one goes in
+/// as it stands, without another look.
+constexpr std::array<unsigned char, 256> MakeByteRooms() {
+  std::array<unsigned char, 256> rooms{};
+  for (std::size_t byte = 0; byte < 256; ++byte) {
+    const bool escaped = byte < 0x20 || byte == '"' || byte == '\\' || byte == 0x7F;
+    rooms[byte] = escaped ? 6 : byte < 0x80 ? 1 : kReplacementCharacter.size();
   }
-  return plain;
+  return rooms;
 }
-constexpr std::array<bool, 256> kPlainBytes = MakePlainBytes();
+constexpr std::array<unsigned char, 256> kByteRooms = MakeByteRooms();
 
-bool IsPlain(char character) { return kPlainBytes[static_cast<unsigned char>(character)]; }
+std::size_t ByteRoom(char character) { return kByteRooms[static_cast<unsigned char>(character)]; }
+
+/// The same byte eight times.
+constexpr std::uint64_t Eight(std::uint64_t byte) { return byte * 0x0101010101010101; }
+
+/// Whether one of the eight bytes is zero. May say so of a byte 0x80 or more, too.
+constexpr bool MayHaveZero(std::uint64_t bytes) { return ((bytes - Eight(1)) & Eight(0x80)) != 0; }
+
+/// Whether eight bytes go into a JSON string as they stand.
+bool ArePlain(std::uint64_t bytes) {
+  // In this order: 0x80 and above, below 0x20, and the three characters between that are escaped.
+  const bool ascii = (bytes & Eight(0x80)) == 0;
+  return ascii && ((bytes - Eight(0x20)) & Eight(0x80)) == 0 && !MayHaveZero(bytes ^ Eight('"')) &&
+         !MayHaveZero(bytes ^ Eight('\\')) && !MayHaveZero(bytes ^ Eight(0x7F));
+}
+
+/// Copies eight bytes if they go into a JSON string as they stand.
+bool CopyEight(char* out, const char* text) {
+  std::uint64_t bytes;
+  std::memcpy(&bytes, text, sizeof bytes);
+  if (!ArePlain(bytes)) {
+    return false;
+  }
+  std::memcpy(out, &bytes, sizeof bytes);
+  return true;
+}
+
+/// Writes the beginning of `text` as far as it goes into a JSON string as it stands; returns how
+/// many bytes that was.
+std::size_t WritePlain(char* out, std::string_view text) {
+  const std::size_t size = text.size();
+  std::size_t i = 0;
+  while (i + 8 <= size && CopyEight(out + i, text.data() + i)) {
+    i += 8;
+  }
+  // The rest of a longer text in one go, together with a few bytes before it.
+  if (size >= 8 && i + 8 > size && CopyEight(out + size - 8, text.data() + size - 8)) {
+    return size;
+  }
+  for (; i < size && ByteRoom(text[i]) == 1; ++i) {
+    out[i] = text[i];
+  }
+  return i;
+}
+
+char* Write(char* out, std::string_view text) {
+  std::memcpy(out, text.data(), text.size());
+  return out + text.size();
+}
 
 /// The letter of a two-character escape, or 0 where JSON has none for this character.
 char ShortEscape(char character) {
@@ -43,35 +95,22 @@ char ShortEscape(char character) {
   }
 }
 
-void AppendEscaped(std::string& out, char character) {
+char* WriteEscape(char* out, char character) {
   static constexpr char kDigits[] = "0123456789abcdef";
+  *out++ = '\\';
   const char letter = ShortEscape(character);
   if (letter != '\0') {
-    const char escape[] = {'\\', letter};
-    out.append(escape, sizeof escape);
-  } else {
-    const auto byte = static_cast<unsigned char>(character);
-    const char escape[] = {'\\', 'u', '0', '0', kDigits[byte >> 4], kDigits[byte & 0xF]};
-    out.append(escape, sizeof escape);
+    *out++ = letter;
+    return out;
   }
-}
-
-/// Appends what stands at the beginning of `text` and is not plain; returns its length in bytes.
-std::size_t AppendSpecial(std::string& out, std::string_view text) {
-  if (static_cast<unsigned char>(text[0]) < 0x80) {
-    AppendEscaped(out, text[0]);
-    return 1;
-  }
-  const Utf8::Sequence sequence = Utf8::First(text);
-  out.append(sequence.wellFormed ? text.substr(0, sequence.length) : kReplacementCharacter);
-  return sequence.length;
+  const auto byte = static_cast<unsigned char>(character);
+  const char code[] = {'u', '0', '0', kDigits[byte >> 4], kDigits[byte & 0xF]};
+  return Write(out, {code, sizeof code});
 }
 
 template <typename Number>
-void AppendDigits(std::string& out, Number value) {
-  char digits[32];  // The longest: a double of 17 digits with sign, point and exponent, 24.
-  const auto result = std::to_chars(digits, digits + sizeof digits, value);
-  out.append(digits, result.ptr);
+char* WriteDigits(char* out, Number value) {
+  return std::to_chars(out, out + JsonText::kNumberRoom, value).ptr;
 }
 
 bool IsWhiteSpace(char character) {
@@ -89,47 +128,56 @@ std::size_t StringLength(std::string_view text) {
 
 }  // namespace
 
-void JsonText::AppendString(std::string& out, std::string_view text) {
-  out.push_back('"');
-  std::size_t i = 0;
-  while (i < text.size()) {
-    const std::size_t begin = i;
-    while (i < text.size() && IsPlain(text[i])) {
-      ++i;
-    }
-    out.append(text.substr(begin, i - begin));
-    if (i < text.size()) {
-      i += AppendSpecial(out, text.substr(i));
-    }
+std::size_t JsonText::LongStringRoom(std::string_view text) {
+  std::size_t room = 2;
+  for (const char character : text) {
+    room += ByteRoom(character);
   }
-  out.push_back('"');
+  return room;
 }
 
-void JsonText::AppendNumber(std::string& out, double value) {
-  if (std::isfinite(value)) {
-    AppendDigits(out, value);
-  } else {
-    out.append("null");
+char* JsonText::WriteString(char* out, std::string_view text) {
+  *out++ = '"';
+  for (;;) {
+    const std::size_t plain = WritePlain(out, text);
+    out += plain;
+    text.remove_prefix(plain);
+    if (text.empty()) {
+      break;
+    }
+    if (static_cast<unsigned char>(text[0]) < 0x80) {
+      out = WriteEscape(out, text[0]);
+      text.remove_prefix(1);
+    } else {
+      const Utf8::Sequence sequence = Utf8::First(text);
+      out =
+          Write(out, sequence.wellFormed ? text.substr(0, sequence.length) : kReplacementCharacter);
+      text.remove_prefix(sequence.length);
+    }
   }
+  *out++ = '"';
+  return out;
 }
 
-void JsonText::AppendNumber(std::string& out, long value) { AppendDigits(out, value); }
+char* JsonText::WriteNumber(char* out, double value) {
+  return std::isfinite(value) ? WriteDigits(out, value) : Write(out, "null");
+}
 
-void JsonText::AppendNumber(std::string& out, unsigned long value) { AppendDigits(out, value); }
+char* JsonText::WriteNumber(char* out, long value) { return WriteDigits(out, value); }
 
-std::string JsonText::Compacted(std::string_view validText) {
-  std::string compact;
-  compact.reserve(validText.size());
+char* JsonText::WriteNumber(char* out, unsigned long value) { return WriteDigits(out, value); }
+
+char* JsonText::WriteCompacted(char* out, std::string_view validText) {
   std::size_t i = 0;
   while (i < validText.size()) {
     const std::size_t begin = i;
     while (i < validText.size() && !IsWhiteSpace(validText[i])) {
       i += validText[i] == '"' ? StringLength(validText.substr(i)) : 1;
     }
-    compact.append(validText.substr(begin, i - begin));
+    out = Write(out, validText.substr(begin, i - begin));
     while (i < validText.size() && IsWhiteSpace(validText[i])) {
       ++i;
     }
   }
-  return compact;
+  return out;
 }

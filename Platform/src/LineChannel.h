@@ -51,7 +51,7 @@ class LineChannel {
   std::atomic<Kind> kind_{Kind::kUnknown};
   std::atomic<long> nextLook_{0};        ///< On the coarse monotonic clock, in milliseconds.
   std::atomic<bool> endsInside_{false};  ///< What went out last did not end with a line break.
-  std::atomic<dev_t> device_{0};  ///< With inode_: the file that we opened.
+  std::atomic<dev_t> device_{0};         ///< With inode_: the file that we opened.
   std::atomic<ino_t> inode_{0};
   char path_[PATH_MAX] = {};  ///< Empty for a standard stream; absolute otherwise.
 };

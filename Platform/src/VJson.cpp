@@ -1,91 +1,95 @@
 #include "VJson.h"
 
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
 #include "JsonText.h"
-
-namespace {
-
-/// Room for a usual record, so that adding its members asks for memory once.
-constexpr std::size_t kFirstCapacity = 256;
-
-/// Takes an object's text back to what it was unless told that the change is complete.
-class Rollback {
- public:
-  explicit Rollback(std::string& text) : text_(text), size_(text.size()) {}
-  ~Rollback() {
-    if (!complete_) {
-      text_.resize(size_);  // Within the room that the text had before, so it cannot throw.
-      text_.back() = '}';
-    }
-  }
-  Rollback(const Rollback&) = delete;
-  Rollback& operator=(const Rollback&) = delete;
-
-  void Complete() { complete_ = true; }
-
- private:
-  std::string& text_;
-  const std::size_t size_;
-  bool complete_ = false;
-};
-
-}  // namespace
 
 namespace VJson {
 
-Value::Value() : text_("{}") {}
+Value::Value() : size_(2), capacity_(sizeof shortText_) { std::memcpy(shortText_, "{}", 2); }
 
-template <typename AppendValue>
-void Value::AddMember(std::string_view key, AppendValue appendValue) {
-  if (text_[0] != '{') {
+Value::Value(const Value& other) : size_(0), capacity_(sizeof shortText_) { *this = other; }
+
+Value& Value::operator=(const Value& other) {
+  if (this != &other) {
+    std::memcpy(Reserve(other.size_), other.Text().data(), other.size_);
+    size_ = other.size_;
+  }
+  return *this;
+}
+
+std::string_view Value::Text() const {
+  return {longText_ == nullptr ? shortText_ : longText_.get(), size_};
+}
+
+/// Makes room for a text of `capacity` bytes, the present one kept; returns where it is.
+char* Value::Reserve(std::size_t capacity) {
+  if (capacity > capacity_) {
+    const std::size_t grown = std::max(capacity, 2 * capacity_);
+    std::unique_ptr<char[]> longer(new char[grown]);
+    std::memcpy(longer.get(), Text().data(), size_);
+    longText_ = std::move(longer);
+    capacity_ = grown;
+  }
+  return longText_ == nullptr ? shortText_ : longText_.get();
+}
+
+/// Adds a member whose value `writeValue` puts at the place it is given, in `room` bytes at most.
+template <typename WriteValue>
+void Value::AddMember(std::string_view key, std::size_t room, WriteValue writeValue) {
+  if (Text()[0] != '{') {
     return;
   }
-  if (text_.capacity() < kFirstCapacity) {
-    text_.reserve(kFirstCapacity);
+  // Only this can run out of memory, and then nothing has changed yet.
+  char* const text = Reserve(size_ + JsonText::StringRoom(key) + room + 2);
+  char* out = text + size_ - 1;  // In place of the closing brace.
+  if (size_ > 2) {
+    *out++ = ',';
   }
-  Rollback rollback(text_);
-  if (text_.size() == 2) {
-    text_.pop_back();
-  } else {
-    text_.back() = ',';
-  }
-  JsonText::AppendString(text_, key);
-  text_.push_back(':');
-  appendValue(text_);
-  text_.push_back('}');
-  rollback.Complete();
+  out = JsonText::WriteString(out, key);
+  *out++ = ':';
+  out = writeValue(out);
+  *out++ = '}';
+  size_ = static_cast<std::size_t>(out - text);
 }
 
-void Value::AddJsonValue(std::string_view key, const std::string& value) {
-  AddMember(key, [&](std::string& out) { JsonText::AppendString(out, value); });
+template <typename Number>
+void Value::AddNumber(std::string_view key, Number value) {
+  AddMember(key, JsonText::kNumberRoom,
+            [value](char* out) { return JsonText::WriteNumber(out, value); });
 }
+
+void Value::AddString(std::string_view key, std::string_view value) {
+  AddMember(key, JsonText::StringRoom(value),
+            [value](char* out) { return JsonText::WriteString(out, value); });
+}
+
+void Value::AddText(std::string_view key, std::string_view json) {
+  AddMember(key, json.size(), [json](char* out) { return out + json.copy(out, json.size()); });
+}
+
+void Value::AddJsonValue(std::string_view key, const std::string& value) { AddString(key, value); }
 
 void Value::AddJsonValue(std::string_view key, const char* value) {
-  AddMember(key,
-            [&](std::string& out) { JsonText::AppendString(out, value == nullptr ? "" : value); });
+  AddString(key, value == nullptr ? std::string_view() : std::string_view(value));
 }
 
-void Value::AddJsonValue(std::string_view key, int value) {
-  AddJsonValue(key, static_cast<long>(value));
-}
+void Value::AddJsonValue(std::string_view key, int value) { AddNumber<long>(key, value); }
 
 void Value::AddJsonValue(std::string_view key, unsigned int value) {
-  AddJsonValue(key, static_cast<unsigned long>(value));
+  AddNumber<unsigned long>(key, value);
 }
 
-void Value::AddJsonValue(std::string_view key, long value) {
-  AddMember(key, [&](std::string& out) { JsonText::AppendNumber(out, value); });
-}
+void Value::AddJsonValue(std::string_view key, long value) { AddNumber(key, value); }
 
-void Value::AddJsonValue(std::string_view key, unsigned long value) {
-  AddMember(key, [&](std::string& out) { JsonText::AppendNumber(out, value); });
-}
+void Value::AddJsonValue(std::string_view key, unsigned long value) { AddNumber(key, value); }
 
-void Value::AddJsonValue(std::string_view key, double value) {
-  AddMember(key, [&](std::string& out) { JsonText::AppendNumber(out, value); });
-}
+void Value::AddJsonValue(std::string_view key, double value) { AddNumber(key, value); }
 
 void Value::AddJsonValue(std::string_view key, bool value) {
-  AddMember(key, [&](std::string& out) { out.append(value ? "true" : "false"); });
+  AddText(key, value ? "true" : "false");
 }
 
 void Value::Add(std::string_view key, const Value& value) {
@@ -93,23 +97,18 @@ void Value::Add(std::string_view key, const Value& value) {
     Add(key, Value(value));
     return;
   }
-  AddMember(key, [&](std::string& out) { out.append(value.text_); });
+  AddText(key, value.Text());
 }
 
 bool Value::Parse(const std::string& text) {
   if (!JsonText::IsValid(text)) {
     return false;
   }
-  text_ = JsonText::Compacted(text);
+  char* const out = Reserve(text.size());
+  size_ = static_cast<std::size_t>(JsonText::WriteCompacted(out, text) - out);
   return true;
 }
 
-std::string Value::ToString() const& { return text_; }
-
-std::string Value::ToString() && {
-  std::string text = std::move(text_);
-  text_ = "{}";
-  return text;
-}
+std::string Value::ToString() const { return std::string(Text()); }
 
 }  // namespace VJson

@@ -1,7 +1,5 @@
 #include "DotRecord/StepRecord.h"
 
-#include <utility>
-
 #include "VDateTime.h"
 #include "VJson.h"
 #include "VLogger.h"
@@ -42,7 +40,7 @@ void ReportStep(unsigned long startTick, unsigned long endTick, const DotStepRec
   AddUnlessEmpty(step, "spanId", record.spanId);
   AddUnlessEmpty(step, "parentSpanId", record.parentSpanId);
   step.Add("args", StepArguments(startTick, endTick, record));
-  const std::string text = std::move(step).ToString();
+  const std::string text = step.ToString();
   VLogger::GetInstance().Metrics("%s", text.c_str());
 }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
-#include <utility>
 
 #include "BoundsChecked.h"
 #include "Common/Log.h"
@@ -79,7 +78,7 @@ std::string VMetrics::GetBaseMetricsString(const VMetricsData* record) {
   root.AddJsonValue("moduleId", record->eventId >> 16);
   root.AddJsonValue("terminalId", SignedText(record->terminalId));
   AddArguments(GetMetricsMap(), static_cast<int>(record->eventId), value, root);
-  return std::move(root).ToString();
+  return root.ToString();
 }
 
 std::string VMetrics::GetStringBaseMetricsString(const VMetricsDataString* record) {
@@ -104,7 +103,7 @@ std::string VMetrics::GetStringBaseMetricsString(const VMetricsDataString* recor
   root.AddJsonValue("serviceName", TextField(record, offsetof(VMetricsDataString, serviceName)));
   root.AddJsonValue("userName", TextField(record, offsetof(VMetricsDataString, userName)));
   AddArguments(GetMetricsStringMap(), eventId, value, root);
-  return std::move(root).ToString();
+  return root.ToString();
 }
 
 std::string VMetrics::FmtMetricsMsgToString(const VMessage* message) {

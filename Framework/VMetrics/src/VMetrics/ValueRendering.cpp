@@ -2,7 +2,7 @@
 
 #include <cstdint>
 #include <string>
-#include <utility>
+#include <string_view>
 
 #include "BoundsChecked.h"
 #include "Common/Log.h"
@@ -10,7 +10,7 @@
 namespace vmetrics {
 namespace {
 
-constexpr char kJsonType[] = "json";
+constexpr std::string_view kJsonType = "json";
 
 /// Reads a value of a fixed width from wherever it stands; false when the copy is refused.
 template <typename Number>
@@ -30,7 +30,7 @@ bool AddNumber(const std::string& name, const char* bytes, VJson::Value& object)
 }
 
 bool AddText(const std::string& name, const char* bytes, VJson::Value& object) {
-  object.AddJsonValue(name, std::string(bytes));
+  object.AddJsonValue(name, bytes);
   return true;
 }
 
@@ -55,7 +55,7 @@ bool AddEnum(const std::string& name, const char* bytes, VJson::Value& object) {
 
 /// How the value of one type becomes a member; false when there is none to add.
 struct ValueType {
-  const char* name;
+  std::string_view name;
   bool (*add)(const std::string& name, const char* bytes, VJson::Value& object);
 };
 
@@ -96,7 +96,7 @@ std::string RenderedText(const Map& catalogue, const typename Map::key_type& key
   if (!AddValue(found->second, bytes, object)) {
     return {};
   }
-  return std::move(object).ToString();
+  return object.ToString();
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 // name, lower case in steps and upper case in operations.
 
 #include <string>
-#include <utility>
 
 #include "VDateTime.h"
 #include "VJson.h"
@@ -36,8 +35,7 @@ int SendBizboxInsToMetric() {
   step.AddJsonValue("endTime", now);
   step.AddJsonValue("resultMsg", "ok");
   step.AddJsonValue("usedTime", 0);
-  return vmetrics::Submit(kConnectEvent, kClientSteps, std::move(step),
-                          VMETRICS_HEADER_INDEX_CONNECTION);
+  return vmetrics::Submit(kConnectEvent, kClientSteps, step, VMETRICS_HEADER_INDEX_CONNECTION);
 }
 
 int SendConnectVagToMetric(unsigned long startTime, int isSuccess) {
@@ -48,8 +46,7 @@ int SendConnectVagToMetric(unsigned long startTime, int isSuccess) {
   if (isSuccess == 0) {
     step.AddJsonValue("errorMsg", "timeout");
   }
-  return vmetrics::Submit(kConnectEvent, kClientSteps, std::move(step),
-                          VMETRICS_HEADER_INDEX_CONNECTION);
+  return vmetrics::Submit(kConnectEvent, kClientSteps, step, VMETRICS_HEADER_INDEX_CONNECTION);
 }
 
 int SendConnectVagToCommonMetric(const std::string& first, const std::string& second,
@@ -61,6 +58,6 @@ int SendConnectVagToCommonMetric(const std::string& first, const std::string& se
   operation.AddJsonValue("optPosition", kClientOperations);
   operation.AddJsonValue("optState", success ? "success" : "fail");
   operation.AddJsonValue("optDesc", first + ":" + second);
-  return vmetrics::Submit(kOperationEvent, kClientOperations, std::move(operation),
+  return vmetrics::Submit(kOperationEvent, kClientOperations, operation,
                           VMETRICS_HEADER_INDEX_CONNECTION);
 }

@@ -1,7 +1,6 @@
 // What the framework's own plumbing reports: slow modules and changes of the transport.
 
 #include <string>
-#include <utility>
 
 #include "Common/Log.h"
 #include "VIpc.h"
@@ -23,7 +22,7 @@ int SendModuleProcessTimeoutMetric(std::string moduleName, std::string name, VMe
   slow.AddJsonValue("msgDstModuleId", message->dstModuleId);
   slow.AddJsonValue("msgType", message->msgType);
   slow.AddJsonValue("cost", cost);
-  return Submit("VEVENT_MSG_PROCESS_SLOW", "", std::move(slow), VMETRICS_HEADER_INDEX_FRAMEWORK);
+  return Submit("VEVENT_MSG_PROCESS_SLOW", "", slow, VMETRICS_HEADER_INDEX_FRAMEWORK);
 }
 
 int SendTransChangeToMetrics(std::string reason, int errorCode, int averageLatency) {
@@ -31,6 +30,5 @@ int SendTransChangeToMetrics(std::string reason, int errorCode, int averageLaten
   change.AddJsonValue("transChangeReason", reason);
   change.AddJsonValue("errorCode", errorCode);
   change.AddJsonValue("averageLatancy", averageLatency);  // So spelt: receivers match on it.
-  return vmetrics::Submit("VEVENT_MSG_TRANS_CHANGE", "", std::move(change),
-                          VMETRICS_HEADER_INDEX_TRANSPORT);
+  return vmetrics::Submit("VEVENT_MSG_TRANS_CHANGE", "", change, VMETRICS_HEADER_INDEX_TRANSPORT);
 }

@@ -3,7 +3,6 @@
 #define VMETRICS_VUPMETRICS_SUBMISSION_H_
 
 #include <string>
-#include <utility>
 
 #include "VJson.h"
 #include "VMetrics.h"
@@ -11,9 +10,9 @@
 namespace vmetrics {
 
 /// Submits the text of `payload`; returns the status of the submission.
-inline int Submit(const char* eventId, const char* serviceName, VJson::Value&& payload,
+inline int Submit(const char* eventId, const char* serviceName, const VJson::Value& payload,
                   VMetricsHeaderIndexType headerIndexType) {
-  const std::string text = std::move(payload).ToString();
+  const std::string text = payload.ToString();
   return SendStringDataToMetric(eventId, serviceName, text.data(), static_cast<int>(text.size()),
                                 headerIndexType);
 }

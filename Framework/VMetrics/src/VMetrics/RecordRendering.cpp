@@ -29,7 +29,7 @@ class ValueCopy {
         complete_(memcpy_s(&bytes_[0], length, data, length) == 0) {}
 
   bool IsComplete() const { return complete_; }
-  const char* Bytes() const { return bytes_.c_str(); }
+  std::string& Bytes() { return bytes_; }
 
  private:
   std::string bytes_;
@@ -44,13 +44,13 @@ std::string SignedText(std::uint32_t number) {
 /// A text field of a record, up to the first NUL. It is taken from the record's first byte on, not
 /// from the field: a text that fills its field runs on into the next one. In a record whose value
 /// length is within limits the byte before the value is zero, so no text leaves the header.
-std::string TextField(const VMetricsDataString* record, std::size_t offset) {
+const char* TextField(const VMetricsDataString* record, std::size_t offset) {
   return reinterpret_cast<const char*>(record) + offset;
 }
 
 /// Nests the rendered value under "args"; adds nothing where there is none.
 template <typename Map>
-void AddArguments(const Map& catalogue, const typename Map::key_type& key, const ValueCopy& value,
+void AddArguments(const Map& catalogue, const typename Map::key_type& key, ValueCopy& value,
                   VJson::Value& root) {
   const auto found = catalogue.find(key);
   VJson::Value arguments;
@@ -67,7 +67,7 @@ std::string VMetrics::GetBaseMetricsString(const VMetricsData* record) {
   if (record == nullptr || record->dataLength > kLongestRenderedValue) {
     return {};
   }
-  const ValueCopy value(record->data, record->dataLength);
+  ValueCopy value(record->data, record->dataLength);
   if (!value.IsComplete()) {
     VMETRICS_LOG(kVMetricsSource, kLogError, "memcpy error");
     return {};
@@ -86,7 +86,7 @@ std::string VMetrics::GetStringBaseMetricsString(const VMetricsDataString* recor
   if (record == nullptr || record->dataLength > kLongestRenderedValue) {
     return {};
   }
-  const ValueCopy value(record->data, record->dataLength);
+  ValueCopy value(record->data, record->dataLength);
   if (!value.IsComplete()) {
     VMETRICS_LOG(kVMetricsSource, kLogError, "memcpy error");
     return {};

@@ -1,6 +1,7 @@
 #include "VMetrics/ValueRendering.h"
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -101,11 +102,15 @@ std::string RenderedText(const Map& catalogue, const typename Map::key_type& key
 
 }  // namespace
 
-bool RenderValue(const MetricEntry& entry, const char* bytes, VJson::Value& object) {
+bool RenderValue(const MetricEntry& entry, std::string& bytes, VJson::Value& object) {
   if (!IsComplete(entry)) {
     return false;
   }
-  return entry[0] == kJsonType ? object.Parse(bytes) : AddValue(entry, bytes, object);
+  if (entry[0] == kJsonType) {
+    bytes.resize(std::strlen(bytes.c_str()));
+    return object.Parse(bytes);
+  }
+  return AddValue(entry, bytes.c_str(), object);
 }
 
 }  // namespace vmetrics

@@ -41,6 +41,8 @@ class VFileLock {
  private:
   friend class VFileLockGuard;
 
+  int Replace(const char* data, int length);
+
   std::string name_;
   int descriptor_ = -1;  ///< Open exactly while a guard holds the lock.
   long size_ = 0;        ///< The file's length in bytes, as of the locking.

@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
@@ -35,11 +34,6 @@ int OpenRegular(const char* path) {
     return -1;
   }
   return descriptor;
-}
-
-bool HasFileSizeLimit() {
-  rlimit limit;
-  return getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY;
 }
 
 /// Waits until `descriptor` takes something without blocking; false when the deadline came first.

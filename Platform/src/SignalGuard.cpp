@@ -1,6 +1,7 @@
 #include "SignalGuard.h"
 
 #include <pthread.h>
+#include <sys/resource.h>
 
 #include <ctime>
 #include <initializer_list>
@@ -32,4 +33,9 @@ void SignalGuard::Discard() {
   const timespec noWait = {0, 0};
   while (sigtimedwait(&ours_, nullptr, &noWait) > 0) {
   }
+}
+
+bool HasFileSizeLimit() {
+  rlimit limit;
+  return getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY;
 }

@@ -22,4 +22,7 @@ class SignalGuard {
   sigset_t hostMask_;
 };
 
+/// Whether writing to a file may raise SIGXFSZ.
+bool HasFileSizeLimit();
+
 #endif  // PLATFORM_SIGNALGUARD_H_

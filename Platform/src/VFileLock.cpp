@@ -14,6 +14,7 @@
 
 #include "Deadline.h"
 #include "ErrnoKeeper.h"
+#include "SignalGuard.h"
 #include "VPlatformConfig.h"
 
 namespace {
@@ -129,6 +130,19 @@ int VFileLock::Write(const char* data, int length) {
     return -1;
   }
   const ErrnoKeeper keeper;
+  if (!HasFileSizeLimit()) {
+    return Replace(data, length);
+  }
+  SignalGuard guard;
+  const int written = Replace(data, length);
+  if (written != length) {
+    guard.Discard();
+  }
+  return written;
+}
+
+/// Overwrites the content in place, and cuts off what was longer only then.
+int VFileLock::Replace(const char* data, int length) {
   const int written = TransferAll(length, [&](int done, std::size_t left) {
     return pwrite(descriptor_, data + done, left, done);
   });

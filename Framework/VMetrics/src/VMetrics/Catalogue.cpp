@@ -41,12 +41,14 @@ bool SplitDefinition(char* msg, const char* function, Definition& definition) {
     return false;
   }
   char* rest = nullptr;
+  const auto next = [&rest](const char* previous) -> const char* {
+    return previous == nullptr ? nullptr : strtok_s(nullptr, ";", &rest);
+  };
   definition.id = strtok_s(msg, ";", &rest);
-  definition.type = strtok_s(nullptr, ";", &rest);
-  definition.name = strtok_s(nullptr, ";", &rest);
-  definition.privateFlag = strtok_s(nullptr, ";", &rest);
-  if (definition.id == nullptr || definition.type == nullptr || definition.name == nullptr ||
-      definition.privateFlag == nullptr) {
+  definition.type = next(definition.id);
+  definition.name = next(definition.type);
+  definition.privateFlag = next(definition.name);
+  if (definition.privateFlag == nullptr) {
     VMETRICS_LOG_AS(kVMetricsSource, function, kLogError, "strtok_s parse failed");
     return false;
   }

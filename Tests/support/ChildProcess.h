@@ -94,13 +94,13 @@ class ChildGate {
   void Wait() const {
     pollfd request = {ends_[0], POLLIN, 0};
     char byte;
-    if (poll(&request, 1, kLongestWaitMilliseconds) != 1 || read(ends_[0], &byte, 1) != 1) {
+    if (poll(&request, 1, kPatienceMilliseconds) != 1 || read(ends_[0], &byte, 1) != 1) {
       throw std::runtime_error("nobody opens the gate");
     }
   }
 
  private:
-  static constexpr int kLongestWaitMilliseconds = 60'000;
+  static constexpr int kPatienceMilliseconds = 60'000;
 
   int ends_[2];
 };

@@ -1,0 +1,37 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "VIpc.h"
+
+namespace {
+
+/// Header words of one distinct byte each, then a body; not at an aligned address.
+constexpr char kBytes[] =
+    "."
+    "\x01\0\0\0"
+    "\x02\0\0\0"
+    "\x03\0\0\0"
+    "\x04\0\0\0"
+    "\xFE\xFF\xFF\xFF"
+    "\x06\0\0\0"
+    "body";
+
+TEST(VIpcTest, TheHeaderStandsAtItsOffsets) {
+  static_assert(alignof(VMessage) == 1, "a message may stand at any address");
+  const auto* const message = reinterpret_cast<const VMessage*>(kBytes + 1);
+  EXPECT_EQ(message->reserved0, 1U);
+  EXPECT_EQ(message->srcModuleId, 2);
+  EXPECT_EQ(message->reserved8, 3U);
+  EXPECT_EQ(message->dstModuleId, 4);
+  EXPECT_EQ(message->msgType, -2);
+  EXPECT_EQ(message->reserved20, 6U);
+}
+
+TEST(VIpcTest, TheBodyFollowsTheHeader) {
+  const auto* const message = reinterpret_cast<const VMessage*>(kBytes + 1);
+  EXPECT_EQ(sizeof(VMessage), 24U);
+  EXPECT_STREQ(message->body, "body");
+}
+
+}  // namespace

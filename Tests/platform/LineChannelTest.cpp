@@ -452,6 +452,21 @@ TEST_P(LineChannelPipeTest, KeepsSigpipeFromTheHost) {
             kExited);
 }
 
+TEST_P(LineChannelPipeTest, KeepsSigpipeFromAHostThatRedirectsItsStream) {
+  const TemporaryDirectory directory;
+  FileContent::Write(directory / "file", "");
+  pipe_.CloseReader();
+  EXPECT_EQ(ChildProcess::Run([&] {
+              signal(SIGPIPE, SIG_DFL);
+              const int stream = open((directory / "file").c_str(), O_WRONLY | O_CLOEXEC);
+              LineChannel channel(stream);
+              EXPECT_EQ(WriteLine(channel, "one"), 0);
+              EXPECT_EQ(dup2(pipe_.Writer(), stream), stream);
+              EXPECT_EQ(WriteLine(channel, "two"), EPIPE);
+            }),
+            kExited);
+}
+
 TEST_P(LineChannelPipeTest, LeavesTheHostsPendingSigpipe) {
   pipe_.CloseReader();
   EXPECT_EQ(ChildProcess::Run([&] {

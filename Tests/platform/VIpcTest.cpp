@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <cstdint>
 
 #include "VIpc.h"
 
@@ -20,12 +20,13 @@ constexpr char kBytes[] =
 TEST(VIpcTest, TheHeaderStandsAtItsOffsets) {
   static_assert(alignof(VMessage) == 1, "a message may stand at any address");
   const auto* const message = reinterpret_cast<const VMessage*>(kBytes + 1);
-  EXPECT_EQ(message->reserved0, 1U);
-  EXPECT_EQ(message->srcModuleId, 2);
-  EXPECT_EQ(message->reserved8, 3U);
-  EXPECT_EQ(message->dstModuleId, 4);
-  EXPECT_EQ(message->msgType, -2);
-  EXPECT_EQ(message->reserved20, 6U);
+  // By value: no reference may be bound to what stands at an odd address.
+  EXPECT_EQ(std::uint32_t{message->reserved0}, 1U);
+  EXPECT_EQ(std::int32_t{message->srcModuleId}, 2);
+  EXPECT_EQ(std::uint32_t{message->reserved8}, 3U);
+  EXPECT_EQ(std::int32_t{message->dstModuleId}, 4);
+  EXPECT_EQ(std::int32_t{message->msgType}, -2);
+  EXPECT_EQ(std::uint32_t{message->reserved20}, 6U);
 }
 
 TEST(VIpcTest, TheBodyFollowsTheHeader) {

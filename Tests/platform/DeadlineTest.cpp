@@ -5,22 +5,37 @@
 namespace {
 
 TEST(DeadlineTest, HasNotPassedWhileThereIsTimeLeft) {
-  const Deadline inAnHour(3'600'000);
+  Deadline inAnHour(3'600'000);
   EXPECT_FALSE(inAnHour.Passed());
   EXPECT_GT(inAnHour.MillisecondsLeft(), 0);
   EXPECT_LE(inAnHour.MillisecondsLeft(), 3'600'000);
 }
 
 TEST(DeadlineTest, HasPassedWhenNoTimeIsLeft) {
-  const Deadline now(0);
+  Deadline now(0);
   EXPECT_TRUE(now.Passed());
   EXPECT_EQ(now.MillisecondsLeft(), 0);
 }
 
 TEST(DeadlineTest, NeverLeavesLessThanNothing) {
-  const Deadline anHourAgo(-3'600'000);
+  Deadline anHourAgo(-3'600'000);
   EXPECT_TRUE(anHourAgo.Passed());
   EXPECT_EQ(anHourAgo.MillisecondsLeft(), 0);
+}
+
+TEST(DeadlineTest, StartsWhenItIsFirstAsked) {
+  Deadline deadline(1);
+  const long made = Deadline::Milliseconds(CLOCK_MONOTONIC);
+  while (Deadline::Milliseconds(CLOCK_MONOTONIC) < made + 3) {
+  }
+  EXPECT_EQ(deadline.MillisecondsLeft(), 1);
+}
+
+TEST(DeadlineTest, PassesWhenItsTimeIsOver) {
+  Deadline deadline(1);
+  while (!deadline.Passed()) {
+  }
+  EXPECT_EQ(deadline.MillisecondsLeft(), 0);
 }
 
 TEST(DeadlineTest, ReadsAClockInMilliseconds) {

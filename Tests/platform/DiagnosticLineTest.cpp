@@ -115,14 +115,6 @@ TEST(DiagnosticLineTest, LeavesBlankTagsOut) {
 TEST(DiagnosticLineTest, PutsAQuestionMarkForWhatIsNotKnown) {
   EXPECT_EQ(Head(0, 1, nullptr), "1970-01-01T00:00:00.000Z ERROR ?:");
   EXPECT_EQ(Source(nullptr, 7), " [?:7]");
-  DiagnosticLine line;
-  const char* const none = nullptr;
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wformat-security"
-#pragma GCC diagnostic ignored "-Wformat-nonliteral"
-  AppendMessage(line, none);
-#pragma GCC diagnostic pop
-  EXPECT_EQ(line.Text(), " ?");
 }
 
 TEST(DiagnosticLineTest, EscapesControlCharactersOnly) {

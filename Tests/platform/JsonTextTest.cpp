@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -15,17 +16,29 @@ namespace {
 
 #define REPLACED "\xEF\xBF\xBD"  // U+FFFD, to be joined with literals.
 
+/// What `write` puts into a buffer of `room` bytes, which lies where overruns are noticed.
+template <typename Writer>
+std::string Written(std::size_t room, Writer write) {
+  const std::unique_ptr<char[]> buffer(new char[room]);
+  const char* const end = write(buffer.get());
+  const auto size = static_cast<std::size_t>(end - buffer.get());
+  EXPECT_LE(size, room);
+  return std::string(buffer.get(), size);
+}
+
 std::string JsonString(std::string_view text) {
-  std::string out;
-  JsonText::AppendString(out, text);
-  return out;
+  return Written(JsonText::StringRoom(text),
+                 [&](char* out) { return JsonText::WriteString(out, text); });
 }
 
 template <typename Number>
 std::string JsonNumber(Number value) {
-  std::string out;
-  JsonText::AppendNumber(out, value);
-  return out;
+  return Written(JsonText::kNumberRoom,
+                 [&](char* out) { return JsonText::WriteNumber(out, value); });
+}
+
+std::string Compacted(std::string_view text) {
+  return Written(text.size(), [&](char* out) { return JsonText::WriteCompacted(out, text); });
 }
 
 /// How the seven-bit character `byte` must stand in a JSON string.
@@ -62,11 +75,34 @@ TEST(JsonTextTest, EscapesQuoteBackslashAndControlCharactersOnly) {
   }
 }
 
-TEST(JsonTextTest, AppendsBehindWhatIsThere) {
-  std::string out = "[";
-  JsonText::AppendString(out, "");
-  JsonText::AppendNumber(out, 7L);
-  EXPECT_EQ(out, "[\"\"7");
+TEST(JsonTextTest, FindsWhatToEscapeAtAnyPlaceInATextOfAnyLength) {
+  for (std::size_t length = 1; length <= 40; ++length) {
+    for (std::size_t place = 0; place < length; ++place) {
+      const std::string before(place, '~');
+      const std::string after(length - place - 1, ' ');
+      for (const char special : {'\0', '\x1F', '"', '\\', '\x7F'}) {
+        ASSERT_EQ(JsonString(before + special + after),
+                  "\"" + before + Escaped(special) + after + "\"");
+      }
+      ASSERT_EQ(JsonString(before + '\xFF' + after), "\"" + before + REPLACED + after + "\"");
+      ASSERT_EQ(JsonString(before + "\xC3\xA9" + after), "\"" + before + "\xC3\xA9" + after + "\"");
+    }
+  }
+}
+
+TEST(JsonTextTest, TheRoomForAStringIsEnoughWhateverIsToBeEscaped) {
+  for (const std::size_t length : {0U, 1U, 7U, 8U, 31U, 32U, 33U, 1000U}) {
+    for (const char character : {'a', '\x01', '"', '\x7F', '\xFF'}) {
+      const std::string text(length, character);
+      EXPECT_GE(JsonText::StringRoom(text), JsonString(text).size());
+      EXPECT_GE(JsonText::LongStringRoom(text), JsonString(text).size());
+    }
+  }
+}
+
+TEST(JsonTextTest, ALongPlainStringTakesNoMoreRoomThanItNeeds) {
+  EXPECT_EQ(JsonText::StringRoom(std::string(33, 'a')), 35U);
+  EXPECT_EQ(JsonText::StringRoom(std::string(60'000, 'a')), 60'002U);
 }
 
 TEST(JsonTextTest, PassesWellFormedSequencesThrough) {
@@ -179,19 +215,19 @@ TEST(JsonTextTest, WritesNullForWhatIsNoNumber) {
 }
 
 TEST(JsonTextTest, CompactingDropsWhiteSpaceBetweenValues) {
-  EXPECT_EQ(JsonText::Compacted(" \t\r\n{ \"a\" :\t[ 1 ,\n2.50 ] , \"b\":\r\n{ } } \n"),
+  EXPECT_EQ(Compacted(" \t\r\n{ \"a\" :\t[ 1 ,\n2.50 ] , \"b\":\r\n{ } } \n"),
             R"({"a":[1,2.50],"b":{}})");
 }
 
 TEST(JsonTextTest, CompactingKeepsWhiteSpaceWithinStrings) {
-  EXPECT_EQ(JsonText::Compacted(R"( [ " a  b " , "" , "c\" , d" , "\\" , "e f" ] )"),
+  EXPECT_EQ(Compacted(R"( [ " a  b " , "" , "c\" , d" , "\\" , "e f" ] )"),
             R"([" a  b ","","c\" , d","\\","e f"])");
 }
 
 TEST(JsonTextTest, CompactingKeepsScalarsLetterForLetter) {
-  EXPECT_EQ(JsonText::Compacted(" -0.0E+00 "), "-0.0E+00");
-  EXPECT_EQ(JsonText::Compacted("\ttrue\n"), "true");
-  EXPECT_EQ(JsonText::Compacted(R"( "\u0041\/\u00e9" )"), R"("\u0041\/\u00e9")");
+  EXPECT_EQ(Compacted(" -0.0E+00 "), "-0.0E+00");
+  EXPECT_EQ(Compacted("\ttrue\n"), "true");
+  EXPECT_EQ(Compacted(R"( "\u0041\/\u00e9" )"), R"("\u0041\/\u00e9")");
 }
 
 }  // namespace

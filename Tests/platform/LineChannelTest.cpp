@@ -230,6 +230,7 @@ TEST_F(LineChannelTest, ASecondFileTakesThePlaceOfTheFirst) {
 TEST_F(LineChannelTest, TakesNoDescriptorOfAStandardStream) {
   EXPECT_EQ(ChildProcess::Run([&] {
               close(STDIN_FILENO);
+              close(STDOUT_FILENO);
               Open();
               EXPECT_GT(Descriptor(), STDERR_FILENO);
             }),

@@ -454,6 +454,19 @@ TEST_F(VFileLockTest, KeepsErrno) {
   }
 }
 
+TEST_F(VFileLockTest, KeepsErrnoWhereTheHostHasClosedTheDescriptor) {
+  VFileLock file(path_);
+  auto guard = std::make_unique<VFileLockGuard>(file);
+  ASSERT_TRUE(guard->LockExclusive());
+  for (const int descriptor : DescriptorTable::OpenOn(path_)) {
+    close(descriptor);
+  }
+  errno = EDOM;
+  EXPECT_EQ(file.Write("text", 4), -1);
+  guard.reset();
+  EXPECT_EQ(errno, EDOM);
+}
+
 TEST_F(VFileLockTest, LeavesNoDescriptorOpen) {
   const long before = DescriptorTable::Count();
   WriteLocked(path_, "text");

@@ -212,6 +212,15 @@ TEST(VJsonTest, AUsualRecordAllocatesNothing) {
   EXPECT_EQ(AllocationFailure::Allocations(), before);
 }
 
+TEST(VJsonTest, AsksForMemorySeldomAsItGrows) {
+  VJson::Value object;
+  const long before = AllocationFailure::Allocations();
+  for (int i = 0; i < 10'000; ++i) {
+    object.AddJsonValue("key", i);  // About 120 KB in all.
+  }
+  EXPECT_LE(AllocationFailure::Allocations() - before, 10);
+}
+
 TEST(VJsonTest, GrowsByMembersOfAnyLength) {
   VJson::Value object;
   std::string expected = "{";

@@ -201,6 +201,21 @@ TEST_F(VLoggerTest, MetricsFormatsTextOfAnyLength) {
   }
 }
 
+TEST_F(VLoggerTest, EachLineIsOneWrite) {
+  Run([] {
+    const TestPipe packets(O_DIRECT);  // It gives each write back for itself.
+    EXPECT_EQ(dup2(packets.Writer(), STDOUT_FILENO), STDOUT_FILENO);
+    EXPECT_EQ(dup2(packets.Writer(), STDERR_FILENO), STDERR_FILENO);
+    const std::string text(2000, 'x');
+    Logger().Metrics("%s", text.c_str());
+    EXPECT_EQ(packets.Read(), text + "\n");
+    Logger().Metrics("%s%d", text.c_str(), 1);
+    EXPECT_EQ(packets.Read(), text + "1\n");
+    Logger().Log("file", 1, "Function", " ", "", 1, "%s", text.c_str());
+    EXPECT_EQ(WithoutTimes(packets.Read()), "ERROR Function: " + text + " [file:1]\n");
+  });
+}
+
 TEST_F(VLoggerTest, MetricsOfTextAllocatesNothing) {
   const std::string text(60'000, 'x');
   Run([&] {

@@ -3,6 +3,7 @@
 #define LOGGEDLINE_H_
 
 #include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <string>
 
@@ -53,6 +54,25 @@ inline testing::Matcher<const FakePlatform::MetricsLine&> EmittedLine(const std:
   using FakePlatform::MetricsLine;
   return testing::AllOf(testing::Field("format", &MetricsLine::format, "%s"),
                         testing::Field("text", &MetricsLine::text, text));
+}
+
+/// One line was written, and nothing logged.
+inline void ExpectOnlyEmitted(const std::string& line) {
+  EXPECT_THAT(FakePlatform::MetricsLines(), testing::ElementsAre(EmittedLine(line)));
+  EXPECT_THAT(FakePlatform::LogLines(), testing::IsEmpty());
+}
+
+/// Nothing was written, and one line logged.
+inline void ExpectOnlyLogged(const testing::Matcher<const FakePlatform::LogLine&>& line) {
+  EXPECT_THAT(FakePlatform::MetricsLines(), testing::IsEmpty());
+  EXPECT_THAT(FakePlatform::LogLines(), testing::ElementsAre(line));
+}
+
+/// Nothing was written, and two lines logged: that of the cause and that of the failure.
+inline void ExpectOnlyLogged(const testing::Matcher<const FakePlatform::LogLine&>& cause,
+                             const testing::Matcher<const FakePlatform::LogLine&>& failure) {
+  EXPECT_THAT(FakePlatform::MetricsLines(), testing::IsEmpty());
+  EXPECT_THAT(FakePlatform::LogLines(), testing::ElementsAre(cause, failure));
 }
 
 #endif  // LOGGEDLINE_H_

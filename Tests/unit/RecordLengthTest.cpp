@@ -7,17 +7,14 @@
 #include <cstdint>
 #include <string>
 
-#include "FrameworkTest.h"
 #include "LoggedLine.h"
-#include "RecordRenderers.h"
+#include "RecordTest.h"
 
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr std::uint32_t kMetric = 770001;
-constexpr char kEvent[] = "RECORD_LENGTH_TEST";
 constexpr std::uint32_t kTooLong[] = {65536, 65537, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
 
 /// A length that an entry refuses with a line, and how that line shows it.
@@ -26,43 +23,13 @@ struct RefusedLength {
   const char* text;
 };
 
-TextRecord Announcing(std::uint32_t length) {
-  TextRecord record;
-  record.eventId = kEvent;
-  record.dataLength = length;
-  return record;
-}
-
-TextRecord Carrying(const std::string& value) {
-  TextRecord record;
-  record.eventId = kEvent;
-  record.value = value;
-  return record;
-}
-
-std::string NumericLine(const std::string& arguments) {
-  return R"({"eventId":"770001","timestamp":1700000000000,"moduleId":11,"terminalId":"0")" +
-         arguments + "}";
-}
-
-std::string TextLine(const std::string& arguments) {
-  return R"({"eventId":"RECORD_LENGTH_TEST","timestamp":1700000000000,"terminalId":"0",)"
-         R"("type":"0","transactionId":"","businessType":"","serviceName":"","userName":"")" +
-         arguments + "}";
-}
-
-class RecordLengthTest : public FrameworkTest {
+class RecordLengthTest : public RecordTest {
  protected:
-  static void Describe(const MetricEntry& entry) {
-    VMetrics::GetMetricsMap()[kMetric] = entry;
-    VMetrics::GetMetricsStringMap()[kEvent] = entry;
-  }
-
-  /// Both records, with a value that announces what it is long.
-  static void ExpectArguments(const std::string& value, const std::string& arguments) {
-    EXPECT_EQ(RenderNumeric(NumericRecord(0, kMetric, value)), NumericLine(arguments));
-    EXPECT_EQ(RenderText(Carrying(value)), TextLine(arguments));
-    EXPECT_THAT(FakePlatform::LogLines(), IsEmpty());
+  /// A string record without a value that announces `length` bytes.
+  static TextRecord Announcing(std::uint32_t length) {
+    TextRecord record = Carrying("");
+    record.dataLength = length;
+    return record;
   }
 };
 

@@ -5,21 +5,16 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <cstring>
 #include <string>
 
-#include "FrameworkTest.h"
 #include "LoggedLine.h"
-#include "RecordRenderers.h"
+#include "RecordTest.h"
 
 namespace {
 
 using namespace std::string_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-constexpr std::uint32_t kMetric = 770001;  // 0x000BBFD1
-constexpr char kEvent[] = "RECORD_RENDERING_TEST";
 
 const std::string kFramesPerSecond("\x07\0\0\0\x01\0\x0B\x12\x04\0\0\0\x3C\0\0\0", 16);
 constexpr char kFramesPerSecondLine[] =
@@ -44,35 +39,7 @@ constexpr char kFullRecordLine[] =
     R"("transactionId":"transaction","businessType":"business","serviceName":"service",)"
     R"("userName":"user","args":{"stepName":"FirstPack"}})";
 
-/// The line of a numeric record of metric kMetric, with `arguments` between the last text and the
-/// end.
-std::string NumericLine(const std::string& arguments) {
-  return R"({"eventId":"770001","timestamp":1700000000000,"moduleId":11,"terminalId":"0")" +
-         arguments + "}";
-}
-
-/// The same for a string record of event kEvent.
-std::string TextLine(const std::string& arguments) {
-  return R"({"eventId":"RECORD_RENDERING_TEST","timestamp":1700000000000,"terminalId":"0",)"
-         R"("type":"0","transactionId":"","businessType":"","serviceName":"","userName":"")" +
-         arguments + "}";
-}
-
-class RecordRenderingTest : public FrameworkTest {
- protected:
-  /// What follows the header members when a value is rendered under `entry`, in both records.
-  static void ExpectArguments(const MetricEntry& entry, const std::string& value,
-                              const std::string& arguments) {
-    VMetrics::GetMetricsMap()[kMetric] = entry;
-    VMetrics::GetMetricsStringMap()[kEvent] = entry;
-    EXPECT_EQ(RenderNumeric(NumericRecord(0, kMetric, value)), NumericLine(arguments));
-    TextRecord record;
-    record.eventId = kEvent;
-    record.value = value;
-    EXPECT_EQ(RenderText(record), TextLine(arguments));
-    EXPECT_THAT(FakePlatform::LogLines(), IsEmpty());
-  }
-};
+using RecordRenderingTest = RecordTest;
 
 // Members -----------------------------------------------------------------------------------------
 
@@ -210,10 +177,7 @@ TEST_F(RecordRenderingTest, NestsAnEmptyObjectForAnUnknownType) {
 
 TEST_F(RecordRenderingTest, HasNoArgumentsForAnIdThatIsNotInTheCatalogue) {
   EXPECT_EQ(RenderNumeric(NumericRecord(0, kMetric, ValueBytes(60))), NumericLine(""));
-  TextRecord record;
-  record.eventId = kEvent;
-  record.value = "{}";
-  EXPECT_EQ(RenderText(record), TextLine(""));
+  EXPECT_EQ(RenderText(Carrying("{}")), TextLine(""));
   EXPECT_THAT(FakePlatform::LogLines(), IsEmpty());
   EXPECT_TRUE(CatalogueIsUnchanged());
 }
@@ -225,15 +189,11 @@ TEST_F(RecordRenderingTest, HasNoArgumentsForAnEntryWithoutItsTexts) {
 }
 
 TEST_F(RecordRenderingTest, HasNoArgumentsWhenTheValueCannotBeCopied) {
-  VMetrics::GetMetricsMap()[kMetric] = {"int", "n", "0"};
-  VMetrics::GetMetricsStringMap()[kEvent] = {"int", "n", "0"};
+  Describe({"int", "n", "0"});
   FakePlatform::FailCopy(2);
   EXPECT_EQ(RenderNumeric(NumericRecord(0, kMetric, ValueBytes(60))), NumericLine(""));
-  TextRecord record;
-  record.eventId = kEvent;
-  record.value = ValueBytes(60);
   FakePlatform::FailCopy(2);
-  EXPECT_EQ(RenderText(record), TextLine(""));
+  EXPECT_EQ(RenderText(Carrying(ValueBytes(60))), TextLine(""));
   EXPECT_THAT(FakePlatform::LogLines(), IsEmpty());
 }
 

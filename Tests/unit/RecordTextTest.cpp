@@ -62,12 +62,24 @@ TEST_F(RecordTextTest, ReadsATextThatLeavesRoomForItsEnd) {
                                       record.serviceName, record.userName}));
 }
 
-TEST_F(RecordTextTest, RunsOnFromTheEventIdIntoTheUserName) {
-  TextRecord record = ShortTexts();
-  record.eventId = std::string(128, 'e');
-  Texts texts = ShortTextsRendered();
-  texts.eventId = std::string(128, 'e') + "u";
-  EXPECT_EQ(RenderText(record), Line(texts));
+TEST_F(RecordTextTest, RunsOnFromAFullFieldIntoTheNext) {
+  struct Field {
+    std::string TextRecord::*text;
+    std::string Texts::*rendered;
+    std::string full;
+    std::string next;
+  };
+  for (const Field& field :
+       {Field{&TextRecord::eventId, &Texts::eventId, std::string(128, 'E'), "u"},
+        {&TextRecord::userName, &Texts::userName, std::string(128, 'U'), "t"},
+        {&TextRecord::transactionId, &Texts::transactionId, std::string(64, 'T'), "b"},
+        {&TextRecord::businessType, &Texts::businessType, std::string(32, 'B'), "s"}}) {
+    TextRecord record = ShortTexts();
+    record.*field.text = field.full;
+    Texts texts = ShortTextsRendered();
+    texts.*field.rendered = field.full + field.next;
+    EXPECT_EQ(RenderText(record), Line(texts));
+  }
 }
 
 TEST_F(RecordTextTest, EndsAFullEventIdBeforeAnEmptyUserName) {
@@ -88,30 +100,6 @@ TEST_F(RecordTextTest, LooksTheEventUpUnderAllThatWasRead) {
   Texts texts = ShortTextsRendered();
   texts.eventId = std::string(128, 'e') + "u";
   EXPECT_EQ(RenderText(record), Line(texts, R"(,"args":{"n":"v"})"));
-}
-
-TEST_F(RecordTextTest, RunsOnFromTheUserNameIntoTheTransactionId) {
-  TextRecord record = ShortTexts();
-  record.userName = std::string(128, 'u');
-  Texts texts = ShortTextsRendered();
-  texts.userName = std::string(128, 'u') + "t";
-  EXPECT_EQ(RenderText(record), Line(texts));
-}
-
-TEST_F(RecordTextTest, RunsOnFromTheTransactionIdIntoTheBusinessType) {
-  TextRecord record = ShortTexts();
-  record.transactionId = std::string(64, 't');
-  Texts texts = ShortTextsRendered();
-  texts.transactionId = std::string(64, 't') + "b";
-  EXPECT_EQ(RenderText(record), Line(texts));
-}
-
-TEST_F(RecordTextTest, RunsOnFromTheBusinessTypeIntoTheServiceName) {
-  TextRecord record = ShortTexts();
-  record.businessType = std::string(32, 'b');
-  Texts texts = ShortTextsRendered();
-  texts.businessType = std::string(32, 'b') + "s";
-  EXPECT_EQ(RenderText(record), Line(texts));
 }
 
 TEST_F(RecordTextTest, RunsOnFromTheServiceNameIntoTheLength) {

@@ -52,14 +52,14 @@ TextRecord JsonRecord() {
   record.transactionId = kName;
   record.businessType = "a type too long for it";
   record.serviceName = "a service too long for it";
-  record.value = "{ \"a\" : [ \"" + std::string(300, 'x') + "\", { \"b\" : 1.5 } ] }";
+  record.value = "{ \"a\" : [ \"" + std::string(2000, 'x') + "\", { \"b\" : 1.5 } ] }";
   return record;
 }
 
 /// The bytes of the records, made while there is memory.
 struct Prepared {
-  const GuardedBytes numeric{NumericRecord(7, kMetric, std::string(300, 'x'))};
-  const GuardedBytes message{Message(1, 2, 3, NumericRecord(7, kMetric, std::string(300, 'x')))};
+  const GuardedBytes numeric{NumericRecord(7, kMetric, std::string(2000, 'x'))};
+  const GuardedBytes message{Message(1, 2, 3, NumericRecord(7, kMetric, std::string(2000, 'x')))};
   const GuardedBytes text{JsonRecord().Bytes()};
   const std::string payload = JsonRecord().value;
   const std::string name = kName;

@@ -248,26 +248,40 @@ TEST_F(ValueRenderingTest, CopiesAValueOfAFixedWidthOnce) {
 
 // Inside the library ------------------------------------------------------------------------------
 
+/// Renders a copy of `bytes` that is padded as records are.
+bool RenderPadded(const MetricEntry& entry, std::string bytes, VJson::Value& value) {
+  bytes.resize(bytes.size() + vmetrics::kWidestValue);
+  return vmetrics::RenderValue(entry, bytes, value);
+}
+
 TEST_F(ValueRenderingTest, MakesAValueOfAJsonText) {
   VJson::Value value;
-  EXPECT_TRUE(vmetrics::RenderValue({"json", "n", "0"}, "{ \"a\" : [1] }", value));
+  EXPECT_TRUE(RenderPadded({"json", "n", "0"}, "{ \"a\" : [1] }", value));
   EXPECT_EQ(value.ToString(), R"({"a":[1]})");
+}
+
+TEST_F(ValueRenderingTest, CutsAJsonTextAtItsEnd) {
+  VJson::Value value;
+  std::string bytes = "[1]\0behind"s;
+  EXPECT_TRUE(vmetrics::RenderValue({"json", "n", "0"}, bytes, value));
+  EXPECT_EQ(value.ToString(), "[1]");
+  EXPECT_EQ(bytes, "[1]");
 }
 
 TEST_F(ValueRenderingTest, LeavesTheValueEmptyWhereThereIsNothingToRender) {
   VJson::Value value;
-  EXPECT_FALSE(vmetrics::RenderValue({"json", "n", "0"}, "not JSON", value));
-  EXPECT_FALSE(vmetrics::RenderValue({"json", "n", "0"}, "", value));
-  EXPECT_FALSE(vmetrics::RenderValue({"json"}, "{\"a\":1}", value));
-  EXPECT_FALSE(vmetrics::RenderValue({}, "", value));
+  EXPECT_FALSE(RenderPadded({"json", "n", "0"}, "not JSON", value));
+  EXPECT_FALSE(RenderPadded({"json", "n", "0"}, "", value));
+  EXPECT_FALSE(RenderPadded({"json"}, "{\"a\":1}", value));
+  EXPECT_FALSE(RenderPadded({}, "", value));
   FakePlatform::FailCopy(1);
-  EXPECT_FALSE(vmetrics::RenderValue({"int", "n", "0"}, "\x3C\0\0", value));
+  EXPECT_FALSE(RenderPadded({"int", "n", "0"}, ValueBytes(60), value));
   EXPECT_EQ(value.ToString(), "{}");
 }
 
 TEST_F(ValueRenderingTest, MakesAnEmptyValueOfAnUnknownType) {
   VJson::Value value;
-  EXPECT_TRUE(vmetrics::RenderValue({"Int", "n", "0"}, "", value));
+  EXPECT_TRUE(RenderPadded({"Int", "n", "0"}, ValueBytes(60), value));
   EXPECT_EQ(value.ToString(), "{}");
 }
 

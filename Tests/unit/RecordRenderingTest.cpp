@@ -182,6 +182,11 @@ TEST_F(RecordRenderingTest, HasNoArgumentsForAnIdThatIsNotInTheCatalogue) {
   EXPECT_TRUE(CatalogueIsUnchanged());
 }
 
+TEST_F(RecordRenderingTest, WantsOnlyTypeAndNameOfAnEntry) {
+  ExpectArguments({"int", "n"}, ValueBytes(60), R"(,"args":{"n":60})");
+  ExpectArguments({"json", "n"}, "{}", R"(,"args":{})");
+}
+
 TEST_F(RecordRenderingTest, HasNoArgumentsForAnEntryWithoutItsTexts) {
   ExpectArguments({}, ValueBytes(60), "");
   ExpectArguments({"int"}, ValueBytes(60), "");

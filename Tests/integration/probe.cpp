@@ -1,0 +1,134 @@
+// A process that uses the library as its arguments tell it: a list of commands, each followed by
+// the arguments of its own.
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <locale>
+#include <map>
+#include <string>
+
+#include "NumberedLines.h"
+#include "ProbeCalls.h"
+#include "ProbeThreads.h"
+#include "VLogger.h"
+#include "VMetrics.h"
+#include "VPlatformConfig.h"
+
+namespace {
+
+const auto startOfProcess = std::chrono::steady_clock::now();
+
+/// A text argument; "null" stands for the null pointer.
+const char* OrNull(const char* text) { return std::string(text) == "null" ? nullptr : text; }
+
+void Expect(bool done, const char* what) {
+  if (!done) {
+    std::perror(what);
+    std::exit(2);
+  }
+}
+
+/// Waits until standard input ends.
+void WaitAtGate() {
+  char byte;
+  while (read(STDIN_FILENO, &byte, 1) > 0) {
+  }
+}
+
+void Insert(char** arguments) {
+  const int result =
+      VMetrics::InsertRecord(std::atoi(arguments[0]), OrNull(arguments[1]), OrNull(arguments[2]),
+                             OrNull(arguments[3]), OrNull(arguments[4]), std::atoi(arguments[5]));
+  Say("insert", std::to_string(result));
+}
+
+/// Starts the step "s" of `count` transactions.
+void StartTransactions(int count) {
+  for (int i = 0; i < count; ++i) {
+    const std::string id = "transaction " + std::to_string(i);
+    VMetrics::InsertRecord(0, id.c_str(), "e", "s", "", 0);
+  }
+}
+
+void WriteNumberedLines(int process, int count, int longest) {
+  for (int number = 0; number < count; ++number) {
+    const std::string line = NumberedLine(process, number, NumberedLineLength(number, longest));
+    VLogger::GetInstance().Metrics("%s", line.c_str());
+  }
+}
+
+/// Numbers as some countries write them, for whatever follows the host's locale.
+class GroupingNumbers : public std::numpunct<char> {
+  char do_decimal_point() const override { return ','; }
+  char do_thousands_sep() const override { return '.'; }
+  std::string do_grouping() const override { return "\3"; }
+};
+
+void SetGroupingLocale() {
+  std::locale::global(std::locale(std::locale::classic(), new GroupingNumbers));
+}
+
+void LimitFileSize(rlim_t bytes) {
+  const rlimit limit = {bytes, RLIM_INFINITY};
+  Expect(setrlimit(RLIMIT_FSIZE, &limit) == 0, "setrlimit");
+}
+
+/// Calls everything when it is destroyed.
+struct LastCaller {
+  ~LastCaller() { CallEverything("destructor"); }
+};
+
+void SayElapsed() {
+  using std::chrono::milliseconds;
+  const auto elapsed = std::chrono::steady_clock::now() - startOfProcess;
+  Say("elapsed", std::to_string(std::chrono::duration_cast<milliseconds>(elapsed).count()));
+}
+
+struct Command {
+  int arguments;
+  std::function<void(char**)> run;
+};
+
+const std::map<std::string, Command>& Commands() {
+  static const std::map<std::string, Command>& commands = *new std::map<std::string, Command>{
+      {"metrics", {1, [](char** a) { Expect(VPlatformConfig::SetMetricsFile(a[0]), a[0]); }}},
+      {"diagnostics", {1, [](char** a) { VPlatformConfig::SetDiagnosticsLevel(atoi(a[0])); }}},
+      {"locks", {1, [](char** a) { Expect(VPlatformConfig::SetLockFileDirectory(a[0]), a[0]); }}},
+      {"gate", {0, [](char**) { WaitAtGate(); }}},
+      {"insert", {6, Insert}},
+      {"parent", {0, [](char**) { Say("parent", VMetrics::GetCurrentParentSpanId()); }}},
+      {"transactions", {1, [](char** a) { StartTransactions(atoi(a[0])); }}},
+      {"remark", {1, [](char** a) { std::fprintf(stderr, "%s\n", a[0]); }}},
+      {"elapsed", {0, [](char**) { SayElapsed(); }}},
+      {"everything", {0, [](char**) { CallEverything("everything"); }}},
+      {"everything-at-exit", {0, [](char**) { std::atexit([] { CallEverything("at exit"); }); }}},
+      {"everything-in-destructor", {0, [](char**) { static const LastCaller lastCaller; }}},
+      {"grouping-locale", {0, [](char**) { SetGroupingLocale(); }}},
+      {"limit-file-size", {1, [](char** a) { LimitFileSize(strtoul(a[0], nullptr, 10)); }}},
+      {"lines", {3, [](char** a) { WriteNumberedLines(atoi(a[0]), atoi(a[1]), atoi(a[2])); }}},
+      {"threads", {2, [](char** a) { CallFromThreads(atoi(a[0]), atoi(a[1])); }}},
+      {"forks", {1, [](char** a) { ForkAmongThreads(atoi(a[0])); }}},
+  };
+  return commands;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  for (int i = 1; i < count;) {
+    const auto command = Commands().find(arguments[i]);
+    if (command == Commands().end() || i + command->second.arguments >= count) {
+      std::fprintf(stderr, "probe: no such command, or too short: %s\n", arguments[i]);
+      return 2;
+    }
+    command->second.run(arguments + i + 1);
+    i += 1 + command->second.arguments;
+  }
+  return 0;
+}

@@ -1,0 +1,180 @@
+// What may stand where the span file is expected. Nothing of it must hold a process up.
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <ostream>
+#include <string>
+
+#include "JsonLines.h"
+#include "ProbeProcess.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::MatchesRegex;
+
+const std::string kIdentifier = "[0-9a-f]{8}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{12}";
+
+void PutFile(const std::string& path, const std::string& content) {
+  std::ofstream(path, std::ios::binary) << content;
+}
+
+/// Holds a lock on the file as another process would.
+class HeldLock {
+ public:
+  HeldLock(const std::string& path, int operation)
+      : descriptor_(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {
+    EXPECT_EQ(flock(descriptor_, operation), 0);
+  }
+  ~HeldLock() { close(descriptor_); }
+  HeldLock(const HeldLock&) = delete;
+  HeldLock& operator=(const HeldLock&) = delete;
+
+ private:
+  int descriptor_;
+};
+
+class SpanFileKindsTest : public testing::Test {
+ protected:
+  /// One process asks for its parent and traces one step.
+  void Run() {
+    result_ = RunProbe(directory_, {"diagnostics", "3", "parent",                       //
+                                    "insert", "0", "t", "e", "s", "ParentSpanId", "0",  //
+                                    "insert", "1", "t", "e", "s", "ParentSpanId", "0", "elapsed"});
+    ASSERT_TRUE(Succeeded(result_));
+    EXPECT_THAT(result_.Values("insert"), ElementsAre("0", "0"));
+    ASSERT_EQ(result_.Values("elapsed").size(), 1U);
+    EXPECT_LT(std::stoi(result_.Values("elapsed")[0]), 2000);
+    const auto records = ParseJsonLines(result_.Metrics());
+    ASSERT_EQ(records.size(), 1U);
+    record_ = records[0];
+  }
+
+  /// The parent is the text `parent`, for the reader and for the step, which then writes its own.
+  void ExpectRead(const std::string& parent) {
+    EXPECT_THAT(result_.Values("parent"), ElementsAre(parent));
+    EXPECT_EQ(record_.contains("parentSpanId") ? TextOf(record_, "parentSpanId") : "", parent);
+    EXPECT_EQ(FileContentOf(Path()), TextOf(record_, "spanId"));
+    EXPECT_THAT(result_.diagnostics,
+                MatchesRegex("[^\n]* INFO GetCurrentParentSpanId: parentSpanId = " + parent +
+                             " \\[[^\n]*\n[^\n]*ResourceClear: ResourceClear [^\n]*\n"));
+  }
+
+  /// The file is out of reach: the placeholder stands for the parent, and nobody is troubled.
+  void ExpectRefused() {
+    EXPECT_THAT(result_.Values("parent"), ElementsAre("ParentSpanId"));
+    EXPECT_EQ(TextOf(record_, "parentSpanId"), "ParentSpanId");
+    EXPECT_THAT(TextOf(record_, "spanId"), MatchesRegex(kIdentifier));
+    EXPECT_THAT(result_.diagnostics, MatchesRegex("[^\n]*ResourceClear: ResourceClear [^\n]*\n"));
+  }
+
+  std::string Path() const { return directory_.File("spanId"); }
+
+  ProbeDirectory directory_;
+  ProbeResult result_;
+  boost::json::object record_;
+};
+
+TEST_F(SpanFileKindsTest, MissingFileIsCreated) {
+  Run();
+  ExpectRead("");
+}
+
+TEST_F(SpanFileKindsTest, EmptyFileHoldsNoParent) {
+  PutFile(Path(), "");
+  Run();
+  ExpectRead("");
+}
+
+TEST_F(SpanFileKindsTest, FileOfAnIdentifierHoldsIt) {
+  PutFile(Path(), "3f2a9c01-00b7-e4d2-5a10-0c33e8f1a2b4");
+  Run();
+  ExpectRead("3f2a9c01-00b7-e4d2-5a10-0c33e8f1a2b4");
+}
+
+TEST_F(SpanFileKindsTest, LongFileIsReadUpTo128BytesAndReplaced) {
+  PutFile(Path(), std::string(200, 'x'));
+  Run();
+  ExpectRead(std::string(128, 'x'));
+}
+
+TEST_F(SpanFileKindsTest, FileWithANulIsReadUpToThere) {
+  PutFile(Path(), std::string("abc\0def", 7));
+  Run();
+  ExpectRead("abc");
+}
+
+TEST_F(SpanFileKindsTest, DirectoryIsRefused) {
+  std::filesystem::create_directory(Path());
+  Run();
+  ExpectRefused();
+  EXPECT_TRUE(std::filesystem::is_directory(Path()));
+}
+
+TEST_F(SpanFileKindsTest, FifoIsRefused) {
+  ASSERT_EQ(mkfifo(Path().c_str(), 0600), 0);
+  Run();
+  ExpectRefused();
+  EXPECT_TRUE(std::filesystem::is_fifo(Path()));
+}
+
+TEST_F(SpanFileKindsTest, SymbolicLinkIsRefusedAndItsTargetLeftAlone) {
+  PutFile(directory_.File("target"), "precious");
+  std::filesystem::create_symlink("target", Path());
+  Run();
+  ExpectRefused();
+  EXPECT_EQ(FileContentOf(directory_.File("target")), "precious");
+}
+
+TEST_F(SpanFileKindsTest, DanglingLinkIsRefusedAndItsTargetNotCreated) {
+  std::filesystem::create_symlink("target", Path());
+  Run();
+  ExpectRefused();
+  EXPECT_FALSE(std::filesystem::exists(directory_.File("target")));
+}
+
+TEST_F(SpanFileKindsTest, ProcessThatKeepsTheLockHoldsNobodyUp) {
+  PutFile(Path(), "abc");
+  const HeldLock held(Path(), LOCK_EX);
+  Run();
+  ExpectRefused();
+  EXPECT_EQ(FileContentOf(Path()), "abc");
+}
+
+TEST_F(SpanFileKindsTest, ProcessThatKeepsReadingLetsOthersReadButNotWrite) {
+  PutFile(Path(), "abc");
+  const HeldLock held(Path(), LOCK_SH);
+  Run();
+  EXPECT_THAT(result_.Values("parent"), ElementsAre("abc"));
+  EXPECT_EQ(TextOf(record_, "parentSpanId"), "ParentSpanId");
+  EXPECT_EQ(FileContentOf(Path()), "abc");
+}
+
+// A host that may not write so much must be told, not killed by a signal.
+TEST_F(SpanFileKindsTest, FileSizeLimitMakesAShortWrite) {
+  int metrics[2];
+  ASSERT_EQ(pipe2(metrics, O_CLOEXEC), 0);
+  ProbeProcess probe(directory_,
+                     {"diagnostics", "2", "limit-file-size", "10",        //
+                      "insert", "0", "t", "e", "s", "ParentSpanId", "0",  //
+                      "insert", "1", "t", "e", "s", "ParentSpanId", "0"},
+                     metrics[1]);
+  close(metrics[1]);
+  result_ = probe.Wait();
+  char output[4096];
+  const ssize_t count = read(metrics[0], output, sizeof output);
+  close(metrics[0]);
+  ASSERT_GT(count, 0);
+  result_.output.assign(output, static_cast<std::size_t>(count));
+  ASSERT_TRUE(Succeeded(result_));
+  EXPECT_THAT(result_.Values("insert"), ElementsAre("0", "0"));
+  EXPECT_THAT(ParseJsonLines(result_.Metrics()), testing::SizeIs(1));
+}
+
+}  // namespace

@@ -1,0 +1,111 @@
+// Calls at the ends of a process's life, and in the child of a process with threads.
+
+#include <gmock/gmock.h>
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "JsonLines.h"
+#include "ProbeProcess.h"
+
+namespace {
+
+using testing::EndsWith;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+/// The lines that calling everything once leaves on the metrics channel: seven reports and a step.
+constexpr int kLinesOfEverything = 8;
+constexpr int kTextsOfEverything = 6;
+
+int Occurrences(const std::string& text, const std::string& part) {
+  int count = 0;
+  for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
+    ++count;
+  }
+  return count;
+}
+
+class LifeOfProcessTest : public testing::Test {
+ protected:
+  void Run(std::vector<std::string> commands) {
+    commands.insert(commands.begin(), {"metrics", directory_.File("metrics"), "diagnostics", "3"});
+    result_ = RunProbe(directory_, commands);
+    ASSERT_TRUE(Succeeded(result_));
+  }
+
+  /// Everything was called `times` times, and all of it worked.
+  void ExpectEverything(int times) {
+    EXPECT_THAT(result_.Values("rendered"), SizeIs(kTextsOfEverything * times));
+    EXPECT_THAT(result_.Values("failed"), IsEmpty());
+    EXPECT_THAT(result_.Values("identifier"), SizeIs(times));
+    EXPECT_THAT(ParseJsonLines(FileContentOf(directory_.File("metrics"))),
+                SizeIs(kLinesOfEverything * times));
+    EXPECT_EQ(result_.Values("parent").back(), FileContentOf(directory_.File("spanId")));
+  }
+
+  int Cleared() const { return Occurrences(result_.diagnostics, "ResourceClear: ResourceClear"); }
+
+  ProbeDirectory directory_;
+  ProbeResult result_;
+};
+
+TEST_F(LifeOfProcessTest, EverythingWorksInMain) {
+  Run({"everything"});
+  ExpectEverything(1);
+  EXPECT_EQ(Cleared(), 1);
+}
+
+TEST_F(LifeOfProcessTest, EverythingWorksInAnExitHandlerOfAProcessThatTraced) {
+  Run({"everything", "everything-at-exit"});
+  ExpectEverything(2);
+  EXPECT_EQ(Cleared(), 1);
+  EXPECT_EQ(Occurrences(result_.diagnostics, "has not startEvent"), 0);
+}
+
+// The table comes into being while the process exits, and goes again.
+TEST_F(LifeOfProcessTest, FirstEventMayComeInAnExitHandler) {
+  Run({"everything-at-exit"});
+  ExpectEverything(1);
+  EXPECT_EQ(Cleared(), 1);
+}
+
+// The handler runs after the table is gone, which was made later than the handler was registered.
+TEST_F(LifeOfProcessTest, ExitHandlerOlderThanTheFirstEventWorksToo) {
+  Run({"everything-at-exit", "everything"});
+  ExpectEverything(2);
+}
+
+TEST_F(LifeOfProcessTest, EverythingWorksInADestructorOfAProcessThatTraced) {
+  Run({"everything", "everything-in-destructor"});
+  ExpectEverything(2);
+  EXPECT_EQ(Cleared(), 1);
+}
+
+TEST_F(LifeOfProcessTest, FirstEventMayComeInADestructor) {
+  Run({"everything-in-destructor"});
+  ExpectEverything(1);
+  EXPECT_EQ(Cleared(), 1);
+}
+
+TEST_F(LifeOfProcessTest, EverythingWorksInTheChildrenOfAProcessWithThreads) {
+  constexpr int kChildren = 20;
+  Run({"forks", std::to_string(kChildren)});
+  EXPECT_EQ(result_.Values("children"), std::vector<std::string>{std::to_string(kChildren)});
+  EXPECT_THAT(result_.Values("failed"), IsEmpty());
+  EXPECT_THAT(result_.Values("rendered"), SizeIs(kTextsOfEverything * kChildren));
+}
+
+// What a child inherits must not make it repeat the identifiers of its sisters. Two repetitions are
+// let through, for a processor whose random source repeats itself.
+TEST_F(LifeOfProcessTest, ForkedChildrenMakeIdentifiersOfTheirOwn) {
+  constexpr int kChildren = 20;
+  Run({"forks", std::to_string(kChildren)});
+  const std::vector<std::string> identifiers = result_.Values("identifier");
+  EXPECT_THAT(identifiers, SizeIs(kChildren));
+  const std::set<std::string> distinct(identifiers.begin(), identifiers.end());
+  EXPECT_GE(distinct.size(), std::size_t{kChildren - 2});
+}
+
+}  // namespace

@@ -13,7 +13,7 @@ inline std::string NumberedLine(int process, int number, int length) {
   std::string line = head;
   line.reserve(size + 64);
   while (line.size() < size) {
-    line += "abcdefghijklmnopqrstuvwxyz0123456789" + (number + process) % 10;
+    line.append(&"abcdefghijklmnopqrstuvwxyz0123456789"[(number + process) % 10]);
   }
   line.resize(size);
   return line;

@@ -57,7 +57,7 @@ TEST_F(MetricsJsonTest, MembersComeInTheirOrder) {
   const std::vector<std::string> keys = {"eventId",     "timestamp",     "terminalId",
                                          "type",        "transactionId", "businessType",
                                          "serviceName", "userName",      "args"};
-  for (const std::size_t i : {0, 1, 2, 4, 5, 6}) {
+  for (const std::size_t i : std::vector<std::size_t>{0, 1, 2, 4, 5, 6}) {
     EXPECT_EQ(KeysOf(lines_[i]), keys) << i;
   }
   EXPECT_THAT(KeysOf(lines_[7]), ElementsAre("eventId", "timestamp", "terminalId", "type",

@@ -17,7 +17,7 @@ using testing::IsEmpty;
 constexpr int kThreads = 8;
 constexpr int kRounds = 1250;
 
-class ConcurrencyTest : public testing::Test {
+class ThreadsTest : public testing::Test {
  protected:
   void Run() {
     result_ = RunProbe(directory_, {"metrics", directory_.File("metrics"), "diagnostics", "3",
@@ -29,7 +29,7 @@ class ConcurrencyTest : public testing::Test {
   ProbeResult result_;
 };
 
-TEST_F(ConcurrencyTest, EveryCallOfEveryThreadHasItsResult) {
+TEST_F(ThreadsTest, EveryCallOfEveryThreadHasItsResult) {
   Run();
   EXPECT_THAT(result_.Values("wrong"), IsEmpty());
 }
@@ -37,7 +37,7 @@ TEST_F(ConcurrencyTest, EveryCallOfEveryThreadHasItsResult) {
 // An identifier is made from 32 random bits, and is as good as they are: some processors' random
 // source repeats itself, here up to 32 times in 10,000 calls from several threads. Threads that
 // shared a generator would repeat whole runs of identifiers.
-TEST_F(ConcurrencyTest, IdentifiersOfAllThreadsDiffer) {
+TEST_F(ThreadsTest, IdentifiersOfAllThreadsDiffer) {
   Run();
   const std::vector<std::string> identifiers = result_.Values("identifier");
   EXPECT_EQ(identifiers.size(), std::size_t{kThreads * kRounds});
@@ -45,7 +45,7 @@ TEST_F(ConcurrencyTest, IdentifiersOfAllThreadsDiffer) {
   EXPECT_GE(distinct.size(), identifiers.size() * 99 / 100);
 }
 
-TEST_F(ConcurrencyTest, EveryReportAndEveryStepIsALine) {
+TEST_F(ThreadsTest, EveryReportAndEveryStepIsALine) {
   Run();
   std::map<std::string, int> lines;
   for (const auto& line : ParseJsonLines(FileContentOf(directory_.File("metrics")))) {
@@ -61,7 +61,7 @@ TEST_F(ConcurrencyTest, EveryReportAndEveryStepIsALine) {
 }
 
 // Seven of the eight threads fail an argument check while the eighth makes the table.
-TEST_F(ConcurrencyTest, RefusedCallsDoNotDisturbTheFirstEvent) {
+TEST_F(ThreadsTest, RefusedCallsDoNotDisturbTheFirstEvent) {
   Run();
   int refused = 0;
   int cleared = 0;

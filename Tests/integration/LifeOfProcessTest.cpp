@@ -17,9 +17,10 @@
 
 namespace {
 
-/// The address sanitizer's allocator holds its locks across a fork: the child of a process with
-/// threads hangs in it now and then, also in a program that only allocates.
-#if defined(__SANITIZE_ADDRESS__) || VMETRICS_TEST_HAS_FEATURE(address_sanitizer)
+/// The allocators of the address and the thread sanitizer keep their locks across a fork: the child
+/// of a process with threads hangs in them now and then, also in a program that only allocates.
+#if defined(__SANITIZE_ADDRESS__) || VMETRICS_TEST_HAS_FEATURE(address_sanitizer) || \
+    defined(__SANITIZE_THREAD__) || VMETRICS_TEST_HAS_FEATURE(thread_sanitizer)
 constexpr bool kAllocatorSurvivesFork = false;
 #else
 constexpr bool kAllocatorSurvivesFork = true;

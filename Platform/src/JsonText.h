@@ -7,7 +7,7 @@
 
 namespace JsonText {
 
-// The writers put a text at `out` and return its end. Nothing here allocates: the caller sees to it
+// The writers put a text at `out` and return its end. They allocate nothing: the caller sees to it
 // that there is room.
 
 /// The room in bytes that WriteString needs for `text`, every byte looked at.
@@ -34,7 +34,8 @@ char* WriteNumber(char* out, long value);
 char* WriteNumber(char* out, unsigned long value);
 
 /// Whether all of `text` is one JSON value as RFC 8259 has it: well-formed UTF-8, no byte order
-/// mark, no lone surrogate escape, no more than 128 levels of nesting.
+/// mark, no lone surrogate escape, no more than 128 levels of nesting. May throw std::bad_alloc for
+/// a number with an exponent of ten digits and more.
 bool IsValid(std::string_view text);
 
 /// Writes valid JSON without the white space between its values, strings and numbers letter for

@@ -3,6 +3,7 @@
 
 #include <boost/json/basic_parser_impl.hpp>
 #include <boost/json/src.hpp>
+#include <string>
 
 #include "JsonText.h"
 
@@ -42,13 +43,52 @@ struct Handler {
   bool on_comment(string_view, error_code&) { return true; }
 };
 
-}  // namespace
-
-bool JsonText::IsValid(std::string_view text) {
+/// Null when all of `text` is one JSON value.
+boost::json::error_code Validate(std::string_view text) {
   boost::json::parse_options options;
   options.max_depth = kDeepestNesting;
   boost::json::basic_parser<Handler> parser(options);
   boost::json::error_code error;
   const std::size_t read = parser.write_some(false, text.data(), text.size(), error);
-  return !error && read == text.size();
+  if (!error && read != text.size()) {
+    error = boost::json::error::extra_data;
+  }
+  return error;
+}
+
+bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+
+/// The text with no exponent longer than nine digits: valid exactly when `text` is.
+std::string WithShortExponents(std::string_view text) {
+  constexpr int kMostDigits = 9;
+  std::string shortened;
+  bool inString = false;
+  bool inExponent = false;
+  int digits = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char character = text[i];
+    if (inString && character == '\\' && i + 1 < text.size()) {
+      shortened.push_back(text[i++]);
+    } else if (character == '"') {
+      inString = !inString;
+    } else if (!inString && (character == 'e' || character == 'E') && i > 0) {
+      inExponent = IsDigit(text[i - 1]);
+      digits = 0;
+    } else if (IsDigit(character) && inExponent && ++digits > kMostDigits) {
+      continue;
+    } else if (!IsDigit(character) && character != '+' && character != '-') {
+      inExponent = false;
+    }
+    shortened.push_back(text[i]);
+  }
+  return shortened;
+}
+
+}  // namespace
+
+bool JsonText::IsValid(std::string_view text) {
+  const boost::json::error_code error = Validate(text);
+  // JSON sets no limit to an exponent; the parser does, as it works the number out.
+  return error == boost::json::error::exponent_overflow ? !Validate(WithShortExponents(text))
+                                                        : !error;
 }

@@ -175,22 +175,23 @@ void LineChannel::Classify() {
   kind_ = stream ? Kind::kStream : HasFileSizeLimit() ? Kind::kLimitedFile : Kind::kFile;
 }
 
-/// Sees to what may have changed around the channel, seldom enough to cost the common line nothing.
-void LineChannel::LookIfDue() {
+/// Sees to what may have changed around the channel: for a file of ours seldom enough to cost the
+/// common line nothing, but for a standard stream each time, as the host may redirect it any time.
+void LineChannel::Look() {
+  if (path_[0] == '\0') {
+    Classify();
+    return;
+  }
   const long now = Deadline::Milliseconds(CLOCK_MONOTONIC_COARSE);
   long due = nextLook_.load(std::memory_order_relaxed);
-  const bool mine =
-      now >= due && nextLook_.compare_exchange_strong(due, now + kLookEveryMilliseconds);
-  if (mine && path_[0] != '\0') {
+  if (now >= due && nextLook_.compare_exchange_strong(due, now + kLookEveryMilliseconds)) {
     FollowFile();
-  }
-  if (mine || kind_ == Kind::kUnknown) {
     Classify();
   }
 }
 
 int LineChannel::WriteLine(const char* text, std::size_t length) {
-  LookIfDue();
+  Look();
   const bool breakFirst =
       endsInside_.load(std::memory_order_relaxed) && endsInside_.exchange(false);
   Line line(breakFirst, text, length);

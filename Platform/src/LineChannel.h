@@ -32,14 +32,13 @@ class LineChannel {
  private:
   /// What a descriptor needs when something is written to it.
   enum class Kind {
-    kUnknown,      ///< Not looked at yet.
     kFile,         ///< A regular file: a write neither blocks nor raises a signal.
     kLimitedFile,  ///< A regular file under a size limit, which raises SIGXFSZ.
     kStream,       ///< A pipe, socket, terminal or device: may block or raise SIGPIPE.
   };
   class Line;
 
-  void LookIfDue();
+  void Look();
   void Classify();
   void FollowFile();
   bool IsOurs() const;
@@ -48,7 +47,7 @@ class LineChannel {
   long WritePiece(Kind kind, const Line& line);
 
   std::atomic<int> descriptor_;
-  std::atomic<Kind> kind_{Kind::kUnknown};
+  std::atomic<Kind> kind_{Kind::kStream};
   std::atomic<long> nextLook_{0};        ///< On the coarse monotonic clock, in milliseconds.
   std::atomic<bool> endsInside_{false};  ///< What went out last did not end with a line break.
   std::atomic<dev_t> device_{0};         ///< With inode_: the file that we opened.

@@ -426,15 +426,6 @@ TEST_F(LineChannelLimitTest, SurvivesALimitSetLaterThatCutsALine) {
   EXPECT_EQ(Content(), "one\ntw");
 }
 
-TEST_F(LineChannelLimitTest, SurvivesALimitSetLaterThatLeavesNoRoom) {
-  ExpectSurvives(RLIM_INFINITY, [&] {
-    EXPECT_EQ(WriteLine(channel_, "one"), 0);
-    FileSizeLimit::Set(4);
-    EXPECT_EQ(WriteLine(channel_, "two"), EFBIG);
-  });
-  EXPECT_EQ(Content(), "one\n");
-}
-
 class LineChannelPipeTest : public testing::TestWithParam<int> {
  protected:
   TestPipe pipe_{GetParam()};

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "ChildProcess.h"
+#include "FileSizeLimit.h"
 #include "SignalGuard.h"
 
 namespace {
@@ -111,6 +112,16 @@ TEST_P(SignalGuardTest, KeepsErrno) {
     EXPECT_EQ(errno, EDOM);
   }
   EXPECT_EQ(errno, EDOM);
+}
+
+TEST(FileSizeLimitTest, IsThereOnceItIsSet) {
+  EXPECT_EQ(ChildProcess::Run([] {
+              FileSizeLimit::Lift();
+              EXPECT_FALSE(HasFileSizeLimit());
+              FileSizeLimit::Set(1'000'000);
+              EXPECT_TRUE(HasFileSizeLimit());
+            }),
+            kExited);
 }
 
 }  // namespace

@@ -248,7 +248,7 @@ TEST_F(VFileLockTest, ReadAndWriteNeedALock) {
 TEST_F(VFileLockTest, WriteTellsWhatASizeLimitLeft) {
   FileContent::Write(path_, "12");
   EXPECT_EQ(ChildProcess::Run([&] {
-              signal(SIGXFSZ, SIG_IGN);
+              signal(SIGXFSZ, SIG_DFL);
               VFileLock file(path_);
               VFileLockGuard guard(file);
               EXPECT_TRUE(guard.LockExclusive());

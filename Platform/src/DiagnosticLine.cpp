@@ -103,10 +103,16 @@ void DiagnosticLine::AppendEscaped(std::string_view text, std::size_t longest) {
     }
     const std::string_view piece = escape;
     if (size_ + piece.size() + kCut.size() > longest) {
-      std::memcpy(text_ + size_, kCut.data(), kCut.size());
-      size_ += kCut.size();
+      Append(kCut);
       return;
     }
+    Append(piece);
+  }
+}
+
+/// Appends `piece` as it is, or nothing of it if the line is full.
+void DiagnosticLine::Append(std::string_view piece) {
+  if (size_ + piece.size() <= sizeof text_) {
     std::memcpy(text_ + size_, piece.data(), piece.size());
     size_ += piece.size();
   }

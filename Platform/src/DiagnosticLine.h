@@ -33,6 +33,7 @@ class DiagnosticLine {
   void AppendFormat(const char* format, ...) __attribute__((format(printf, 2, 3)));
   void AppendEscaped(std::string_view text, std::size_t longest);
   void AppendTime(unsigned long tick);
+  void Append(std::string_view piece);
 
   std::size_t size_ = 0;
   char text_[kLongestLine];

@@ -120,6 +120,7 @@ void CallFromThreads(int threads, int rounds) {
 }
 
 void ForkAmongThreads(int children) {
+  VMetrics::GenerateUuid();  // What this leaves behind, the children would inherit.
   std::atomic<bool> stop{false};
   std::vector<std::thread> running;
   for (int i = 0; i < 3; ++i) {

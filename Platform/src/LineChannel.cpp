@@ -2,12 +2,14 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
@@ -36,15 +38,49 @@ int OpenRegular(const char* path) {
   return descriptor;
 }
 
-/// Waits until `descriptor` takes something without blocking; false when the deadline came first.
-bool WaitWritable(int descriptor, Deadline& deadline) {
-  pollfd request = {descriptor, POLLOUT, 0};
-  int ready = 0;
-  do {
-    ready = poll(&request, 1, static_cast<int>(deadline.MillisecondsLeft()));
-  } while (ready < 0 && errno == EINTR && !deadline.Passed());
-  return ready > 0;
-}
+/// A pipe, socket or terminal, written to without ever waiting for its reader.
+class Stream {
+ public:
+  /// Opens the stream anew for a moment, as the flag that keeps a write from waiting would
+  /// otherwise be set for everybody who shares it. Not kept open: its reader must see the end when
+  /// the host closes it.
+  explicit Stream(int descriptor) : descriptor_(descriptor) {
+    char path[32];
+    std::snprintf(path, sizeof path, "/proc/self/fd/%d", descriptor);
+    own_ = open(path, O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  }
+  ~Stream() {
+    if (own_ >= 0) {
+      close(own_);
+    }
+  }
+  Stream(const Stream&) = delete;
+  Stream& operator=(const Stream&) = delete;
+
+  /// False when the deadline came before the stream could take anything.
+  bool WaitWritable(Deadline& deadline) const {
+    pollfd request = {own_ >= 0 ? own_ : descriptor_, POLLOUT, 0};
+    int ready = 0;
+    do {
+      ready = poll(&request, 1, static_cast<int>(deadline.MillisecondsLeft()));
+    } while (ready < 0 && errno == EINTR && !deadline.Passed());
+    return ready > 0;
+  }
+
+  ssize_t Write(const void* data, std::size_t size) const {
+    if (own_ >= 0) {
+      return write(own_, data, size);
+    }
+    // A socket cannot be opened, nor can a pipe whose reader is gone, which fails at once. Only
+    // what the process may not open any more is left, and may make it wait.
+    const ssize_t sent = send(descriptor_, data, size, MSG_DONTWAIT | MSG_NOSIGNAL);
+    return sent < 0 && errno == ENOTSOCK ? write(descriptor_, data, size) : sent;
+  }
+
+ private:
+  const int descriptor_;
+  int own_;
+};
 
 }  // namespace
 
@@ -83,12 +119,12 @@ class LineChannel::Line {
   }
 
   /// Hands over no more than fits into a pipe at once.
-  ssize_t WritePieceTo(int descriptor) const {
+  ssize_t WritePieceTo(const Stream& stream) const {
     const iovec* part = parts_;
     while (part->iov_len == 0) {
       ++part;
     }
-    return write(descriptor, part->iov_base, std::min<std::size_t>(part->iov_len, PIPE_BUF));
+    return stream.Write(part->iov_base, std::min<std::size_t>(part->iov_len, PIPE_BUF));
   }
 
   void Advance(std::size_t count) {
@@ -199,7 +235,9 @@ int LineChannel::WriteLine(const char* text, std::size_t length) {
   const int error = Push(line);
   if (error != 0) {
     const std::size_t written = whole - line.Left();
-    endsInside_ = written == 0 ? breakFirst : !(breakFirst && written == 1);
+    if (written == 0 ? breakFirst : !(breakFirst && written == 1)) {
+      endsInside_ = true;  // Never taken back here: another thread may have left a fragment too.
+    }
     nextLook_ = 0;  // The next line looks whether what stands in the way is gone.
   }
   return error;
@@ -207,38 +245,55 @@ int LineChannel::WriteLine(const char* text, std::size_t length) {
 
 /// Returns 0 once the line is out, otherwise the error number that ended it.
 int LineChannel::Push(Line& line) {
+  return kind_ == Kind::kStream ? PushToStream(line) : PushToFile(line);
+}
+
+int LineChannel::PushToFile(Line& line) {
   Deadline deadline(kLongestWaitMilliseconds);
   while (line.Left() > 0) {
-    const Kind kind = kind_;
-    if (kind == Kind::kStream && !WaitWritable(descriptor_, deadline)) {
-      return EAGAIN;
-    }
-    const long written = WritePiece(kind, line);
+    const ssize_t written = WriteToFile(line);
     if (written > 0) {
       line.Advance(static_cast<std::size_t>(written));
       if (line.Left() > 0) {
         Classify();  // A file that takes only a part may have met a limit set since we looked.
       }
-      continue;
-    }
-    const int error = written == 0 ? EIO : errno;
-    const bool passing = error == EINTR || (error == EAGAIN && kind == Kind::kStream);
-    if (!passing || deadline.Passed()) {
-      return error;
+    } else if (written == 0 || errno != EINTR || deadline.Passed()) {
+      return written == 0 ? EIO : errno;
     }
   }
   return 0;
 }
 
-long LineChannel::WritePiece(Kind kind, const Line& line) {
-  if (kind == Kind::kFile) {
+long LineChannel::WriteToFile(const Line& line) {
+  if (kind_ != Kind::kLimitedFile) {
     return line.WriteTo(descriptor_);
   }
   SignalGuard guard;
-  const long written =
-      kind == Kind::kStream ? line.WritePieceTo(descriptor_) : line.WriteTo(descriptor_);
+  const ssize_t written = line.WriteTo(descriptor_);
   if (written < 0) {
     guard.Discard();
   }
   return written;
+}
+
+int LineChannel::PushToStream(Line& line) {
+  Deadline deadline(kLongestWaitMilliseconds);
+  const Stream stream(descriptor_);
+  while (line.Left() > 0) {
+    if (!stream.WaitWritable(deadline)) {
+      return EAGAIN;
+    }
+    SignalGuard guard;
+    const ssize_t written = line.WritePieceTo(stream);
+    if (written > 0) {
+      line.Advance(static_cast<std::size_t>(written));
+      continue;
+    }
+    guard.Discard();
+    const bool passing = written < 0 && (errno == EINTR || errno == EAGAIN);
+    if (!passing || deadline.Passed()) {
+      return written == 0 ? EIO : errno;
+    }
+  }
+  return 0;
 }

@@ -10,7 +10,7 @@
 #include <string>
 
 /// Writes each line with one system call, so that lines of several threads and processes do not mix
-/// in a file, nor in a pipe while they are no longer than PIPE_BUF (4,096 bytes).
+/// in a file. Into a pipe that holds up to PIPE_BUF (4,096 bytes); longer lines go in pieces.
 ///
 /// It holds no lock, so a child that was forked while another thread wrote a line can go on; and it
 /// needs neither constructor nor destructor at run time, so that it serves from the first to the
@@ -44,7 +44,9 @@ class LineChannel {
   bool IsOurs() const;
   bool Adopt(int opened);
   int Push(Line& line);
-  long WritePiece(Kind kind, const Line& line);
+  int PushToFile(Line& line);
+  int PushToStream(Line& line);
+  long WriteToFile(const Line& line);
 
   std::atomic<int> descriptor_;
   std::atomic<Kind> kind_{Kind::kStream};

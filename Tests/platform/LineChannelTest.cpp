@@ -1,6 +1,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/mman.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,6 +14,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -424,6 +426,69 @@ TEST_F(LineChannelLimitTest, SurvivesALimitSetLaterThatCutsALine) {
     EXPECT_EQ(WriteLine(channel_, "two"), EFBIG);
   });
   EXPECT_EQ(Content(), "one\ntw");
+}
+
+TEST_F(LineChannelLimitTest, LeavesEveryFragmentBehindAmongThreads) {
+  ExpectSurvives(RLIM_INFINITY, [&] {
+    signal(SIGXFSZ, SIG_IGN);  // The limit changes faster than the channel looks.
+    for (int round = 0; round < 300; ++round) {
+      // Room for some whole lines and for a part of one.
+      FileSizeLimit::Set(std::filesystem::file_size(path_) + 4100);
+      const auto writeUntilItFails = [this](char letter) {
+        const std::string text(100, letter);
+        while (WriteLine(channel_, text) == 0) {
+        }
+      };
+      std::thread other(writeUntilItFails, 'a');
+      writeUntilItFails('b');
+      other.join();
+      FileSizeLimit::Lift();
+      EXPECT_EQ(WriteLine(channel_, "end"), 0);
+    }
+  });
+  std::size_t ends = 0;
+  std::istringstream lines(Content());
+  for (std::string line; std::getline(lines, line);) {
+    ends += line == "end" ? 1 : 0;
+  }
+  EXPECT_EQ(ends, 300U);
+}
+
+TEST(LineChannelTerminalTest, DropsALineThatNobodyTakesFromTheTerminal) {
+  const int screen = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+  ASSERT_GE(screen, 0);
+  ASSERT_EQ(grantpt(screen), 0);
+  ASSERT_EQ(unlockpt(screen), 0);
+  const int terminal = open(ptsname(screen), O_RDWR | O_NOCTTY | O_CLOEXEC);
+  ASSERT_GE(terminal, 0);
+  EXPECT_EQ(ChildProcess::Run([&] {
+              LineChannel channel(terminal);
+              int error = 0;
+              for (int line = 0; error == 0 && line < 10'000; ++line) {
+                error = WriteLine(channel, std::string(300, 'x'));
+              }
+              EXPECT_EQ(error, EAGAIN);
+              EXPECT_EQ(fcntl(terminal, F_GETFL) & O_NONBLOCK, 0);  // Others share the terminal.
+            }),
+            kExited);
+  close(terminal);
+  close(screen);
+}
+
+TEST(LineChannelSocketTest, DropsALineThatNobodyTakesFromTheSocket) {
+  int ends[2];
+  ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends), 0);
+  EXPECT_EQ(ChildProcess::Run([&] {
+              LineChannel channel(ends[0]);
+              int error = 0;
+              for (int line = 0; error == 0 && line < 10'000; ++line) {
+                error = WriteLine(channel, std::string(300, 'x'));
+              }
+              EXPECT_EQ(error, EAGAIN);
+            }),
+            kExited);
+  close(ends[0]);
+  close(ends[1]);
 }
 
 class LineChannelPipeTest : public testing::TestWithParam<int> {

@@ -4,7 +4,8 @@
 
 /// One instance a process, never destroyed: it may be used from the moment the library is loaded
 /// to the last destructor of the process, from any thread, and in a child after fork. Neither
-/// function throws on its own account, changes errno or keeps a pointer past the call.
+/// function changes errno or keeps a pointer past the call, or throws but where its comment says
+/// so.
 class VLogger {
  public:
   static VLogger& GetInstance();

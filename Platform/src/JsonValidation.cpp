@@ -1,5 +1,5 @@
 // Validation of foreign JSON: Boost.JSON's event parser with a handler that keeps nothing, so that
-// a text is read once and nothing is allocated for it.
+// a usual text is read once and nothing is allocated for it.
 
 #include <boost/json/basic_parser_impl.hpp>
 #include <boost/json/src.hpp>

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstdarg>
@@ -85,7 +86,7 @@ VLogger& VLogger::GetInstance() {
 
 void VLogger::Log(const char* file, int line, const char* function, const char* text1,
                   const char* text2, int level, const char* format, ...) {
-  if (level > diagnosticsLevel.load(std::memory_order_relaxed)) {
+  if (std::max(level, kError) > diagnosticsLevel.load(std::memory_order_relaxed)) {
     return;
   }
   const ErrnoKeeper keeper;

@@ -2,7 +2,9 @@
 ///
 /// Everything works without any of this: metrics go to standard output, errors and warnings to
 /// standard error, and shared files lie in the working directory with mode 0600. A host that wants
-/// otherwise calls these functions once at start-up, before other threads use the platform.
+/// otherwise calls these functions once at start-up, before other threads use the platform. One
+/// that closes its standard output should name a metrics file: what it opens next may get that
+/// descriptor, and the metrics.
 ///
 /// Example:
 ///
@@ -34,7 +36,8 @@ void SetDiagnosticsLevel(int level);
 
 /// Puts files that are locked by a relative name into `directory`. An empty one stands for the
 /// working directory at the time of each locking. Returns false, and changes nothing, when the name
-/// is too long for a path.
+/// is too long for a path. The directory is not looked at: while it does not exist, every lock is
+/// refused.
 bool SetLockFileDirectory(const std::string& directory);
 
 /// Gives files that locking creates the permissions `mode`, whatever the umask: 0660, say, for

@@ -1,11 +1,11 @@
 // A process that uses the library as its arguments tell it: a list of commands, each followed by
 // the arguments of its own.
 
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include <chrono>
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -13,6 +13,7 @@
 #include <map>
 #include <string>
 
+#include "FileSizeLimit.h"
 #include "NumberedLines.h"
 #include "ProbeCalls.h"
 #include "ProbeThreads.h"
@@ -74,9 +75,10 @@ void SetGroupingLocale() {
   std::locale::global(std::locale(std::locale::classic(), new GroupingNumbers));
 }
 
+/// From here on a file that grows beyond `bytes` kills the process, unless the library sees to it.
 void LimitFileSize(rlim_t bytes) {
-  const rlimit limit = {bytes, RLIM_INFINITY};
-  Expect(setrlimit(RLIMIT_FSIZE, &limit) == 0, "setrlimit");
+  std::signal(SIGXFSZ, SIG_DFL);
+  FileSizeLimit::Set(bytes);
 }
 
 /// Calls everything when it is destroyed.
@@ -111,6 +113,7 @@ const std::map<std::string, Command>& Commands() {
       {"everything-in-destructor", {0, [](char**) { static const LastCaller lastCaller; }}},
       {"grouping-locale", {0, [](char**) { SetGroupingLocale(); }}},
       {"limit-file-size", {1, [](char** a) { LimitFileSize(strtoul(a[0], nullptr, 10)); }}},
+      {"lift-file-size-limit", {0, [](char**) { FileSizeLimit::Lift(); }}},
       {"lines", {3, [](char** a) { WriteNumberedLines(atoi(a[0]), atoi(a[1]), atoi(a[2])); }}},
       {"threads", {2, [](char** a) { CallFromThreads(atoi(a[0]), atoi(a[1])); }}},
       {"forks", {1, [](char** a) { ForkAmongThreads(atoi(a[0])); }}},

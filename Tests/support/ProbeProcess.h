@@ -58,7 +58,7 @@ inline std::string FileContentOf(const std::string& path) {
 struct ProbeResult {
   int status = kDidNotEnd;  ///< The exit code, or minus the signal that ended it.
   std::string output;       ///< Standard output, unless it went elsewhere.
-  std::string diagnostics;  ///< Standard error.
+  std::string diagnostics;  ///< Standard error, unless it went elsewhere.
 
   /// What the probe said as "name=value", each time.
   std::vector<std::string> Values(const std::string& name) const {
@@ -98,9 +98,10 @@ inline testing::AssertionResult Succeeded(const ProbeResult& result) {
 class ProbeProcess {
  public:
   /// Starts it in `directory`, so that its span file lies there. Its standard output is kept, or
-  /// goes to `output`. It waits in the command "gate" for Go.
+  /// goes to `output`; its standard error likewise to `diagnostics`. It waits in the command "gate"
+  /// for Go.
   ProbeProcess(const ProbeDirectory& directory, const std::vector<std::string>& commands,
-               int output = -1)
+               int output = -1, int diagnostics = -1)
       : output_(Memory()), diagnostics_(Memory()) {
     int gate[2];
     EXPECT_EQ(pipe2(gate, O_CLOEXEC), 0);
@@ -110,7 +111,8 @@ class ProbeProcess {
     posix_spawn_file_actions_addchdir_np(&actions, directory.Path().c_str());
     posix_spawn_file_actions_adddup2(&actions, gate[0], STDIN_FILENO);
     posix_spawn_file_actions_adddup2(&actions, output < 0 ? output_ : output, STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, diagnostics_, STDERR_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, diagnostics < 0 ? diagnostics_ : diagnostics,
+                                     STDERR_FILENO);
     std::vector<char*> arguments{const_cast<char*>(VMETRICS_PROBE)};
     for (const std::string& command : commands) {
       arguments.push_back(const_cast<char*>(command.c_str()));

@@ -6,8 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "FileContent.h"
 #include "JsonLines.h"
 #include "ProbeProcess.h"
+#include "TemporaryDirectory.h"
 
 #if defined(__has_feature)
 #define VMETRICS_TEST_HAS_FEATURE(feature) __has_feature(feature)
@@ -44,7 +46,7 @@ int Occurrences(const std::string& text, const std::string& part) {
 class LifeOfProcessTest : public testing::Test {
  protected:
   void Run(std::vector<std::string> commands) {
-    commands.insert(commands.begin(), {"metrics", directory_.File("metrics"), "diagnostics", "3"});
+    commands.insert(commands.begin(), {"metrics", directory_ / "metrics", "diagnostics", "3"});
     result_ = RunProbe(directory_, commands);
     ASSERT_TRUE(Succeeded(result_));
   }
@@ -54,14 +56,14 @@ class LifeOfProcessTest : public testing::Test {
     EXPECT_THAT(result_.Values("rendered"), SizeIs(kTextsOfEverything * times));
     EXPECT_THAT(result_.Values("failed"), IsEmpty());
     EXPECT_THAT(result_.Values("identifier"), SizeIs(times));
-    EXPECT_THAT(ParseJsonLines(FileContentOf(directory_.File("metrics"))),
+    EXPECT_THAT(ParseJsonLines(FileContent::Read(directory_ / "metrics")),
                 SizeIs(kLinesOfEverything * times));
-    EXPECT_EQ(result_.Values("parent").back(), FileContentOf(directory_.File("spanId")));
+    EXPECT_EQ(result_.Values("parent").back(), FileContent::Read(directory_ / "spanId"));
   }
 
   int Cleared() const { return Occurrences(result_.diagnostics, "ResourceClear: ResourceClear"); }
 
-  ProbeDirectory directory_;
+  TemporaryDirectory directory_;
   ProbeResult result_;
 };
 

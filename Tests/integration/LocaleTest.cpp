@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "ProbeProcess.h"
+#include "SpanIdentifierForm.h"
+#include "TemporaryDirectory.h"
 
 namespace {
 
@@ -41,7 +43,7 @@ std::string WithoutChanges(const ProbeResult& result) {
 class LocaleTest : public testing::Test {
  protected:
   static ProbeResult Run(const std::vector<std::string>& commands) {
-    const ProbeDirectory directory;
+    const TemporaryDirectory directory;
     const ProbeResult result = RunProbe(directory, commands);
     EXPECT_TRUE(Succeeded(result));
     return result;
@@ -59,7 +61,7 @@ TEST_F(LocaleTest, IdentifiersKeepTheirFormUnderAGroupingLocale) {
   const ProbeResult result = Run({"grouping-locale", "everything", "everything", "everything"});
   EXPECT_THAT(result.Values("identifier"), SizeIs(3));
   for (const std::string& identifier : result.Values("identifier")) {
-    EXPECT_THAT(identifier, testing::MatchesRegex("[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}"));
+    EXPECT_PRED1(IsSpanIdentifier, identifier);
   }
 }
 

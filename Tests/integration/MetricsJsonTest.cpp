@@ -6,8 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "FileContent.h"
 #include "JsonLines.h"
 #include "ProbeProcess.h"
+#include "TemporaryDirectory.h"
 
 namespace {
 
@@ -22,9 +24,9 @@ class MetricsJsonTest : public testing::Test {
  protected:
   MetricsJsonTest() {
     const ProbeResult result =
-        RunProbe(directory_, {"metrics", directory_.File("metrics"), "everything"});
+        RunProbe(directory_, {"metrics", directory_ / "metrics", "everything"});
     EXPECT_TRUE(Succeeded(result));
-    lines_ = ParseJsonLines(FileContentOf(directory_.File("metrics")));
+    lines_ = ParseJsonLines(FileContent::Read(directory_ / "metrics"));
     rendered_ = result.Values("rendered");
     lines_.resize(8);  // Only after a failure of the parsing are there fewer.
   }
@@ -48,7 +50,7 @@ class MetricsJsonTest : public testing::Test {
 
   static object ArgumentsOf(const object& line) { return line.at("args").as_object(); }
 
-  ProbeDirectory directory_;
+  TemporaryDirectory directory_;
   std::vector<object> lines_;
   std::vector<std::string> rendered_;
 };
@@ -134,7 +136,7 @@ TEST_F(MetricsJsonTest, StepHasItsMembers) {
   EXPECT_EQ(TextOf(line, "transactionId"), "everything");
   EXPECT_EQ(TextOf(line, "terminalId"), "0");
   EXPECT_EQ(TextOf(line, "type"), "2");
-  EXPECT_EQ(TextOf(line, "spanId"), FileContentOf(directory_.File("spanId")));
+  EXPECT_EQ(TextOf(line, "spanId"), FileContent::Read(directory_ / "spanId"));
   const object step = ArgumentsOf(line);
   EXPECT_THAT(KeysOf(step), ElementsAre("stepName", "errorCode", "isSuccess", "startTime",
                                         "endTime", "usedTime"));

@@ -15,6 +15,7 @@
 
 #include "NumberedLines.h"
 #include "ProbeProcess.h"
+#include "TemporaryDirectory.h"
 
 namespace {
 
@@ -59,7 +60,7 @@ class NumberedLinesReader {
 /// Eight processes that write `count` lines each, from the moment when all of them are there.
 class Writers {
  public:
-  Writers(const ProbeDirectory& directory, const std::vector<std::string>& channel, int count,
+  Writers(const TemporaryDirectory& directory, const std::vector<std::string>& channel, int count,
           int longest, int output = -1) {
     for (int process = 0; process < kProcesses; ++process) {
       std::vector<std::string> commands = channel;
@@ -92,8 +93,8 @@ class Writers {
 
 // 100,000 lines, 71 MB: 96,000 of 40 to 439 bytes, 3,600 of 4,000 to 8,999, 400 of 60,000.
 TEST(SharedChannelTest, FileTakesEveryLineWholeAndInOrder) {
-  const ProbeDirectory directory;
-  const std::string path = directory.File("metrics");
+  const TemporaryDirectory directory;
+  const std::string path = directory / "metrics";
   constexpr int kCount = 12'500;
   constexpr int kLongest = 60'000;
   Writers writers(directory, {"metrics", path}, kCount, kLongest);
@@ -151,7 +152,7 @@ void ExpectTold(int lost, const std::string& diagnostics) {
 // may on a busy machine, drops its line and says so: no line is lost without a word. One in fifty
 // may be: to drop that many, a process finds no room for ten seconds altogether.
 TEST(SharedChannelTest, PipeTakesLinesUpTo4095BytesWholeAndInOrder) {
-  const ProbeDirectory directory;
+  const TemporaryDirectory directory;
   constexpr int kCount = 5'000;
   constexpr int kLongest = 4'095;
   constexpr int kMostLost = kCount / 50;

@@ -1,11 +1,14 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
+#include "FileContent.h"
 #include "JsonLines.h"
 #include "ProbeProcess.h"
+#include "TemporaryDirectory.h"
 
 namespace {
 
@@ -24,8 +27,8 @@ std::vector<std::string> operator+(std::vector<std::string> first,
 }
 
 TEST(SpanChainTest, EachProcessesStepIsTheParentOfTheNext) {
-  const ProbeDirectory directory;
-  const std::string metrics = directory.File("metrics");
+  const TemporaryDirectory directory;
+  const std::string metrics = directory / "metrics";
   constexpr int kProcesses = 7;
   for (int i = 0; i < kProcesses; ++i) {
     const std::vector<std::string> commands{"metrics", metrics};
@@ -33,7 +36,7 @@ TEST(SpanChainTest, EachProcessesStepIsTheParentOfTheNext) {
     ASSERT_TRUE(Succeeded(result));
     EXPECT_THAT(result.Values("insert"), ElementsAre("0", "0"));
   }
-  const auto records = ParseJsonLines(FileContentOf(metrics));
+  const auto records = ParseJsonLines(FileContent::Read(metrics));
   ASSERT_EQ(records.size(), static_cast<std::size_t>(kProcesses));
   EXPECT_EQ(records[0].if_contains("parentSpanId"), nullptr);
   for (std::size_t i = 1; i < records.size(); ++i) {
@@ -42,20 +45,20 @@ TEST(SpanChainTest, EachProcessesStepIsTheParentOfTheNext) {
 }
 
 TEST(SpanChainTest, FileHoldsTheLastIdentifierAndIsItsOwnersAlone) {
-  const ProbeDirectory directory;
+  const TemporaryDirectory directory;
   const ProbeResult result = RunProbe(directory, Step("a") + Step("b"));
   ASSERT_TRUE(Succeeded(result));
   const auto records = ParseJsonLines(result.Metrics());
   ASSERT_EQ(records.size(), 2U);
-  EXPECT_EQ(FileContentOf(directory.File("spanId")), TextOf(records[1], "spanId"));
+  EXPECT_EQ(FileContent::Read(directory / "spanId"), TextOf(records[1], "spanId"));
   struct stat status = {};
-  ASSERT_EQ(stat(directory.File("spanId").c_str(), &status), 0);
+  ASSERT_EQ(stat((directory / "spanId").c_str(), &status), 0);
   EXPECT_EQ(status.st_size, 36);
   EXPECT_EQ(status.st_mode, static_cast<mode_t>(S_IFREG | 0600));
 }
 
 TEST(SpanChainTest, AnotherProcessReadsTheCurrentParent) {
-  const ProbeDirectory directory;
+  const TemporaryDirectory directory;
   const ProbeResult tracing = RunProbe(directory, Step("a"));
   const ProbeResult reading = RunProbe(directory, {"diagnostics", "3", "parent"});
   const auto records = ParseJsonLines(tracing.Metrics());
@@ -69,20 +72,20 @@ TEST(SpanChainTest, AnotherProcessReadsTheCurrentParent) {
 
 // The file is found through the directory that the host names, wherever the processes stand.
 TEST(SpanChainTest, ProcessesMeetInTheDirectoryThatTheHostNames) {
-  const ProbeDirectory meeting;
-  const ProbeDirectory first;
-  const ProbeDirectory second;
+  const TemporaryDirectory meeting;
+  const TemporaryDirectory first;
+  const TemporaryDirectory second;
   const std::vector<std::string> locks{"locks", meeting.Path()};
   const ProbeResult tracing = RunProbe(first, locks + Step("a"));
   const ProbeResult reading = RunProbe(second, locks + std::vector<std::string>{"parent"});
   ASSERT_TRUE(Succeeded(tracing));
-  EXPECT_THAT(reading.Values("parent"), ElementsAre(FileContentOf(meeting.File("spanId"))));
-  EXPECT_FALSE(std::filesystem::exists(first.File("spanId")));
+  EXPECT_THAT(reading.Values("parent"), ElementsAre(FileContent::Read(meeting / "spanId")));
+  EXPECT_FALSE(std::filesystem::exists(first / "spanId"));
 }
 
 // A step that surrounds others is the child of the last of them: the file knows no nesting.
 TEST(SpanChainTest, ParentIsTheStepThatEndedLast) {
-  const ProbeDirectory directory;
+  const TemporaryDirectory directory;
   const std::vector<std::string> outerStarts{"insert", "0", "t", "e", "outer", "", "0"};
   const std::vector<std::string> outerEnds{"insert", "1", "t", "e", "outer", "ParentSpanId", "0"};
   const ProbeResult result =

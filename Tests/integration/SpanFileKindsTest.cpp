@@ -7,24 +7,20 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <fstream>
 #include <ostream>
 #include <string>
 
+#include "FileContent.h"
 #include "JsonLines.h"
 #include "ProbeProcess.h"
+#include "SpanIdentifierForm.h"
+#include "TemporaryDirectory.h"
 #include "TestPipe.h"
 
 namespace {
 
 using testing::ElementsAre;
 using testing::MatchesRegex;
-
-const std::string kIdentifier = "[0-9a-f]{8}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{12}";
-
-void PutFile(const std::string& path, const std::string& content) {
-  std::ofstream(path, std::ios::binary) << content;
-}
 
 /// Holds a lock on the file as another process would.
 class HeldLock {
@@ -61,7 +57,7 @@ class SpanFileKindsTest : public testing::Test {
   void ExpectRead(const std::string& parent) {
     EXPECT_THAT(result_.Values("parent"), ElementsAre(parent));
     EXPECT_EQ(record_.contains("parentSpanId") ? TextOf(record_, "parentSpanId") : "", parent);
-    EXPECT_EQ(FileContentOf(Path()), TextOf(record_, "spanId"));
+    EXPECT_EQ(FileContent::Read(Path()), TextOf(record_, "spanId"));
     EXPECT_THAT(result_.diagnostics,
                 MatchesRegex("[^\n]* INFO GetCurrentParentSpanId: parentSpanId = " + parent +
                              " \\[[^\n]*\n[^\n]*ResourceClear: ResourceClear [^\n]*\n"));
@@ -71,13 +67,13 @@ class SpanFileKindsTest : public testing::Test {
   void ExpectRefused() {
     EXPECT_THAT(result_.Values("parent"), ElementsAre("ParentSpanId"));
     EXPECT_EQ(TextOf(record_, "parentSpanId"), "ParentSpanId");
-    EXPECT_THAT(TextOf(record_, "spanId"), MatchesRegex(kIdentifier));
+    EXPECT_PRED1(IsSpanIdentifier, TextOf(record_, "spanId"));
     EXPECT_THAT(result_.diagnostics, MatchesRegex("[^\n]*ResourceClear: ResourceClear [^\n]*\n"));
   }
 
-  std::string Path() const { return directory_.File("spanId"); }
+  std::string Path() const { return directory_ / "spanId"; }
 
-  ProbeDirectory directory_;
+  TemporaryDirectory directory_;
   ProbeResult result_;
   boost::json::object record_;
 };
@@ -88,25 +84,25 @@ TEST_F(SpanFileKindsTest, MissingFileIsCreated) {
 }
 
 TEST_F(SpanFileKindsTest, EmptyFileHoldsNoParent) {
-  PutFile(Path(), "");
+  FileContent::Write(Path(), "");
   Run();
   ExpectRead("");
 }
 
 TEST_F(SpanFileKindsTest, FileOfAnIdentifierHoldsIt) {
-  PutFile(Path(), "3f2a9c01-00b7-e4d2-5a10-0c33e8f1a2b4");
+  FileContent::Write(Path(), "3f2a9c01-00b7-e4d2-5a10-0c33e8f1a2b4");
   Run();
   ExpectRead("3f2a9c01-00b7-e4d2-5a10-0c33e8f1a2b4");
 }
 
 TEST_F(SpanFileKindsTest, LongFileIsReadUpTo128BytesAndReplaced) {
-  PutFile(Path(), std::string(200, 'x'));
+  FileContent::Write(Path(), std::string(200, 'x'));
   Run();
   ExpectRead(std::string(128, 'x'));
 }
 
 TEST_F(SpanFileKindsTest, FileWithANulIsReadUpToThere) {
-  PutFile(Path(), std::string("abc\0def", 7));
+  FileContent::Write(Path(), std::string("abc\0def", 7));
   Run();
   ExpectRead("abc");
 }
@@ -126,35 +122,35 @@ TEST_F(SpanFileKindsTest, FifoIsRefused) {
 }
 
 TEST_F(SpanFileKindsTest, SymbolicLinkIsRefusedAndItsTargetLeftAlone) {
-  PutFile(directory_.File("target"), "precious");
+  FileContent::Write(directory_ / "target", "precious");
   std::filesystem::create_symlink("target", Path());
   Run();
   ExpectRefused();
-  EXPECT_EQ(FileContentOf(directory_.File("target")), "precious");
+  EXPECT_EQ(FileContent::Read(directory_ / "target"), "precious");
 }
 
 TEST_F(SpanFileKindsTest, DanglingLinkIsRefusedAndItsTargetNotCreated) {
   std::filesystem::create_symlink("target", Path());
   Run();
   ExpectRefused();
-  EXPECT_FALSE(std::filesystem::exists(directory_.File("target")));
+  EXPECT_FALSE(std::filesystem::exists(directory_ / "target"));
 }
 
 TEST_F(SpanFileKindsTest, ProcessThatKeepsTheLockHoldsNobodyUp) {
-  PutFile(Path(), "abc");
+  FileContent::Write(Path(), "abc");
   const HeldLock held(Path(), LOCK_EX);
   Run();
   ExpectRefused();
-  EXPECT_EQ(FileContentOf(Path()), "abc");
+  EXPECT_EQ(FileContent::Read(Path()), "abc");
 }
 
 TEST_F(SpanFileKindsTest, ProcessThatKeepsReadingLetsOthersReadButNotWrite) {
-  PutFile(Path(), "abc");
+  FileContent::Write(Path(), "abc");
   const HeldLock held(Path(), LOCK_SH);
   Run();
   EXPECT_THAT(result_.Values("parent"), ElementsAre("abc"));
   EXPECT_EQ(TextOf(record_, "parentSpanId"), "ParentSpanId");
-  EXPECT_EQ(FileContentOf(Path()), "abc");
+  EXPECT_EQ(FileContent::Read(Path()), "abc");
 }
 
 // A host that may not write so much must be told, not killed by a signal. What the probe says goes
@@ -178,7 +174,7 @@ TEST_F(SpanFileKindsTest, FileSizeLimitMakesAShortWrite) {
                            "\\[Framework/VMetrics/src/DotRecord:[0-9]+\\]\n"));
   const auto records = ParseJsonLines(result_.Metrics());
   ASSERT_EQ(records.size(), 1U);
-  const std::string written = FileContentOf(Path());
+  const std::string written = FileContent::Read(Path());
   EXPECT_EQ(written.size(), 10U);
   EXPECT_EQ(written, TextOf(records[0], "spanId").substr(0, 10));
 }

@@ -7,8 +7,10 @@
 #include <set>
 #include <string>
 
+#include "FileContent.h"
 #include "JsonLines.h"
 #include "ProbeProcess.h"
+#include "TemporaryDirectory.h"
 
 namespace {
 
@@ -20,12 +22,12 @@ constexpr int kRounds = 1250;
 class ThreadsTest : public testing::Test {
  protected:
   void Run() {
-    result_ = RunProbe(directory_, {"metrics", directory_.File("metrics"), "diagnostics", "3",
+    result_ = RunProbe(directory_, {"metrics", directory_ / "metrics", "diagnostics", "3",
                                     "threads", std::to_string(kThreads), std::to_string(kRounds)});
     ASSERT_TRUE(Succeeded(result_));
   }
 
-  ProbeDirectory directory_;
+  TemporaryDirectory directory_;
   ProbeResult result_;
 };
 
@@ -48,7 +50,7 @@ TEST_F(ThreadsTest, IdentifiersOfAllThreadsDiffer) {
 TEST_F(ThreadsTest, EveryReportAndEveryStepIsALine) {
   Run();
   std::map<std::string, int> lines;
-  for (const auto& line : ParseJsonLines(FileContentOf(directory_.File("metrics")))) {
+  for (const auto& line : ParseJsonLines(FileContent::Read(directory_ / "metrics"))) {
     ++lines[line.contains("spanId") ? "step" : TextOf(line, "eventId")];
   }
   constexpr int kEach = kThreads * kRounds / 25;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ProbeProcess.h"
+#include "TemporaryDirectory.h"
 
 namespace {
 
@@ -28,7 +29,7 @@ class TransactionTableTest : public testing::Test {
     return result;
   }
 
-  ProbeDirectory directory_;
+  TemporaryDirectory directory_;
 };
 
 TEST_F(TransactionTableTest, ProcessThatTracedSaysOneLastWordAfterMain) {

@@ -9,33 +9,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <ostream>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "BoundedWait.h"
-
-/// A directory for the files of one test, removed with it.
-class ProbeDirectory {
- public:
-  ProbeDirectory() {
-    std::string name = testing::TempDir() + "probeXXXXXX";
-    path_ = mkdtemp(name.data());
-  }
-  ~ProbeDirectory() { std::filesystem::remove_all(path_); }
-  ProbeDirectory(const ProbeDirectory&) = delete;
-  ProbeDirectory& operator=(const ProbeDirectory&) = delete;
-
-  const std::string& Path() const { return path_; }
-  std::string File(const std::string& name) const { return path_ + "/" + name; }
-
- private:
-  std::string path_;
-};
+#include "TemporaryDirectory.h"
 
 /// The lines of `text`, without their line breaks.
 inline std::vector<std::string> LinesOf(const std::string& text) {
@@ -45,13 +25,6 @@ inline std::vector<std::string> LinesOf(const std::string& text) {
     lines.push_back(line);
   }
   return lines;
-}
-
-/// All that stands in a file, in which a missing one has nothing.
-inline std::string FileContentOf(const std::string& path) {
-  std::ostringstream content;
-  content << std::ifstream(path, std::ios::binary).rdbuf();
-  return content.str();
 }
 
 /// What became of a probe.
@@ -100,7 +73,7 @@ class ProbeProcess {
   /// Starts it in `directory`, so that its span file lies there. Its standard output is kept, or
   /// goes to `output`; its standard error likewise to `diagnostics`. It waits in the command "gate"
   /// for Go.
-  ProbeProcess(const ProbeDirectory& directory, const std::vector<std::string>& commands,
+  ProbeProcess(const TemporaryDirectory& directory, const std::vector<std::string>& commands,
                int output = -1, int diagnostics = -1)
       : output_(Memory()), diagnostics_(Memory()) {
     int gate[2];
@@ -175,7 +148,7 @@ class ProbeProcess {
 };
 
 /// Runs a probe from beginning to end.
-inline ProbeResult RunProbe(const ProbeDirectory& directory,
+inline ProbeResult RunProbe(const TemporaryDirectory& directory,
                             const std::vector<std::string>& commands) {
   return ProbeProcess(directory, commands).Wait();
 }

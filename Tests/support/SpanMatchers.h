@@ -1,30 +1,19 @@
-/// What tests of step tracing say about identifiers and log lines.
+/// What tests of step tracing hand on, and what they say about log lines.
 #ifndef SPANMATCHERS_H_
 #define SPANMATCHERS_H_
 
 #include <gmock/gmock.h>
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "FakePlatform.h"
+#include "SpanIdentifierForm.h"
 #include "VFileLock.h"
 
 /// Two identifiers for tests that only hand them on.
 constexpr char kSpanA[] = "3f2a9c01-00b7-e4d2-5a10-0c33e8f1a2b4";
 constexpr char kSpanB[] = "d091bb5c-22ae-e7e1-d5c3-1f792082352c";
-
-/// Whether `text` is lower-case hexadecimal digits in groups of 8-4-4-4-12.
-inline bool IsSpanIdentifier(std::string_view text) {
-  constexpr std::string_view kForm = "xxxxxxxx-xxxx-xxxx-xxxx-xxxxxxxxxxxx";
-  bool matches = text.size() == kForm.size();
-  for (std::size_t i = 0; matches && i < text.size(); ++i) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    matches = kForm[i] == '-' ? text[i] == '-' : kDigits.find(text[i]) != std::string_view::npos;
-  }
-  return matches;
-}
 
 /// A log line of the tracing unit, all of it but the number of its source line.
 MATCHER_P4(IsTracingLine, level, function, format, message, "") {

@@ -1,4 +1,4 @@
-// A desktop host may set a C++ locale that groups digits and writes a decimal comma.
+// A desktop host may set a locale, of C++ and of C, that groups digits and writes a decimal comma.
 
 #include <gmock/gmock.h>
 
@@ -50,23 +50,29 @@ class LocaleTest : public testing::Test {
   }
 };
 
-TEST_F(LocaleTest, GroupingLocaleChangesNoText) {
+TEST_F(LocaleTest, CommaLocaleIsInForceInTheProbe) {
+  EXPECT_THAT(Run({"numbers"}).Values("number"), ElementsAre("1234567", "1234567.5"));
+  EXPECT_THAT(Run({"comma-locale", "numbers"}).Values("number"),
+              ElementsAre("1.234.567", "1234567,5"));
+}
+
+TEST_F(LocaleTest, CommaLocaleChangesNoText) {
   const std::string usual = WithoutChanges(Run({"everything"}));
-  EXPECT_EQ(WithoutChanges(Run({"grouping-locale", "everything"})), usual);
+  EXPECT_EQ(WithoutChanges(Run({"comma-locale", "everything"})), usual);
   EXPECT_NE(usual.find("1234567"), std::string::npos);
   EXPECT_NE(usual.find("1234567.25"), std::string::npos);
 }
 
-TEST_F(LocaleTest, IdentifiersKeepTheirFormUnderAGroupingLocale) {
-  const ProbeResult result = Run({"grouping-locale", "everything", "everything", "everything"});
+TEST_F(LocaleTest, IdentifiersKeepTheirFormUnderACommaLocale) {
+  const ProbeResult result = Run({"comma-locale", "everything", "everything", "everything"});
   EXPECT_THAT(result.Values("identifier"), SizeIs(3));
   for (const std::string& identifier : result.Values("identifier")) {
     EXPECT_PRED1(IsSpanIdentifier, identifier);
   }
 }
 
-TEST_F(LocaleTest, DiagnosticsKeepTheirFormUnderAGroupingLocale) {
-  const ProbeResult result = Run({"grouping-locale", "insert", "1234567", "t", "e", "s", "", "0"});
+TEST_F(LocaleTest, DiagnosticsKeepTheirFormUnderACommaLocale) {
+  const ProbeResult result = Run({"comma-locale", "insert", "1234567", "t", "e", "s", "", "0"});
   EXPECT_THAT(result.Values("insert"), ElementsAre("-9996"));
   EXPECT_THAT(result.diagnostics,
               testing::MatchesRegex(

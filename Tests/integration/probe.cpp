@@ -4,15 +4,15 @@
 #include <unistd.h>
 
 #include <chrono>
-#include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
-#include <locale>
 #include <map>
+#include <sstream>
 #include <string>
 
+#include "CommaLocale.h"
 #include "FileSizeLimit.h"
 #include "NumberedLines.h"
 #include "ProbeCalls.h"
@@ -64,15 +64,14 @@ void WriteNumberedLines(int process, int count, int longest) {
   }
 }
 
-/// Numbers as some countries write them, for whatever follows the host's locale.
-class GroupingNumbers : public std::numpunct<char> {
-  char do_decimal_point() const override { return ','; }
-  char do_thousands_sep() const override { return '.'; }
-  std::string do_grouping() const override { return "\3"; }
-};
-
-void SetGroupingLocale() {
-  std::locale::global(std::locale(std::locale::classic(), new GroupingNumbers));
+/// Says a number as a stream of C++ writes it, and one as C does.
+void SayNumbers() {
+  std::ostringstream stream;
+  stream << 1234567;
+  Say("number", stream.str());
+  char text[32];
+  std::snprintf(text, sizeof text, "%.1f", 1234567.5);
+  Say("number", text);
 }
 
 /// From here on a file that grows beyond `bytes` kills the process, unless the library sees to it.
@@ -111,7 +110,8 @@ const std::map<std::string, Command>& Commands() {
       {"everything", {0, [](char**) { CallEverything("everything"); }}},
       {"everything-at-exit", {0, [](char**) { std::atexit([] { CallEverything("at exit"); }); }}},
       {"everything-in-destructor", {0, [](char**) { static const LastCaller lastCaller; }}},
-      {"grouping-locale", {0, [](char**) { SetGroupingLocale(); }}},
+      {"comma-locale", {0, [](char**) { static const CommaLocale commaLocale; }}},
+      {"numbers", {0, [](char**) { SayNumbers(); }}},
       {"limit-file-size", {1, [](char** a) { LimitFileSize(strtoul(a[0], nullptr, 10)); }}},
       {"lift-file-size-limit", {0, [](char**) { FileSizeLimit::Lift(); }}},
       {"lines", {3, [](char** a) { WriteNumberedLines(atoi(a[0]), atoi(a[1]), atoi(a[2])); }}},

@@ -3,10 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include <locale>
+#include <cstdio>
 #include <sstream>
 #include <string>
 
+#include "CommaLocale.h"
 #include "FrameworkTest.h"
 #include "LoggedLine.h"
 #include "RecordRenderers.h"
@@ -15,23 +16,8 @@ namespace {
 
 constexpr int kMetric = 7700001;
 
-/// Numbers as a German desktop writes them: 1.234.567,5.
-class GermanNumbers : public std::numpunct<char> {
- protected:
-  char do_decimal_point() const override { return ','; }
-  char do_thousands_sep() const override { return '.'; }
-  std::string do_grouping() const override { return "\3"; }
-  std::string do_truename() const override { return "wahr"; }
-  std::string do_falsename() const override { return "falsch"; }
-};
-
 class HostLocaleTest : public FrameworkTest {
  protected:
-  HostLocaleTest()
-      : before_(std::locale::global(std::locale(std::locale::classic(), new GermanNumbers))) {}
-
-  ~HostLocaleTest() override { std::locale::global(before_); }
-
   /// How metric kMetric renders when it is of this type.
   template <typename Value>
   static std::string Rendered(const char* type, Value value) {
@@ -40,13 +26,16 @@ class HostLocaleTest : public FrameworkTest {
   }
 
  private:
-  const std::locale before_;
+  const CommaLocale locale_;
 };
 
 TEST_F(HostLocaleTest, IsInForce) {
   std::ostringstream text;
   text << 1234567 << ' ' << std::fixed << 1234567.5;
   EXPECT_EQ(text.str(), "1.234.567 1.234.567,500000");
+  char textOfC[32];
+  std::snprintf(textOfC, sizeof textOfC, "%.1f", 1234567.5);
+  EXPECT_STREQ(textOfC, "1234567,5");
 }
 
 TEST_F(HostLocaleTest, LeavesValuesAlone) {

@@ -60,6 +60,7 @@ TEST_F(LocaleTest, CommaLocaleChangesNoText) {
   const std::string usual = WithoutChanges(Run({"everything"}));
   EXPECT_EQ(WithoutChanges(Run({"comma-locale", "everything"})), usual);
   EXPECT_NE(usual.find("1234567"), std::string::npos);
+  EXPECT_NE(usual.find("{\"diskUage\":1234567.5}"), std::string::npos);
   EXPECT_NE(usual.find("1234567.25"), std::string::npos);
 }
 

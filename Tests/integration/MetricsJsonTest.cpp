@@ -152,9 +152,10 @@ TEST_F(MetricsJsonTest, RenderedTextsAreJson) {
   }
   const std::vector<object> texts = ParseJsonLines(lines);
   ASSERT_THAT(texts, SizeIs(6));
-  EXPECT_EQ(texts[0].at("displayFPS"), 1234567);
+  EXPECT_EQ(texts[0].at("diskUage"), 1234567.5);
   EXPECT_EQ(TextOf(texts[1], "driverError"), kHardText);
   EXPECT_EQ(texts[2].at("moduleId"), 4619);
+  EXPECT_EQ(Arguments(texts[2]), R"({"displayFPS":1234567})");
   EXPECT_EQ(TextOf(texts[3], "terminalId"), "1234567");
   EXPECT_EQ(Arguments(texts[4]), R"({"number":1.23456725E6,"list":[1,2]})");
   EXPECT_EQ(TextOf(texts[4], "userName"), kHardText);

@@ -49,12 +49,13 @@ std::string Message(const std::string& record) {
 }
 
 constexpr int kFrameRate = 302710785;
+constexpr int kDiskUsage = 0x2F0A0002;  // A number with a fraction.
 
 }  // namespace
 
 std::vector<std::string> RenderEverything() {
   const int number = 1234567;
-  const char* const bytes = reinterpret_cast<const char*>(&number);
+  const double fraction = 1234567.5;
   const std::string numeric = NumericRecord(kFrameRate, number);
   const std::string message = Message(numeric);
   const std::string json =
@@ -62,7 +63,7 @@ std::vector<std::string> RenderEverything() {
   const std::string text = TextRecord("VMETRICS_USB_DRIVER_ERROR", kHardText);
   const auto* jsonRecord = reinterpret_cast<const VMetricsDataString*>(json.data());
   const auto* textRecord = reinterpret_cast<const VMetricsDataString*>(text.data());
-  return {VMetrics::ToString(kFrameRate, bytes),
+  return {VMetrics::ToString(kDiskUsage, reinterpret_cast<const char*>(&fraction)),
           VMetrics::ToString("VMETRICS_USB_DRIVER_ERROR", kHardText),
           VMetrics::GetBaseMetricsString(reinterpret_cast<const VMetricsData*>(numeric.data())),
           VMetrics::FmtMetricsMsgToString(reinterpret_cast<const VMessage*>(message.data())),

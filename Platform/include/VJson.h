@@ -67,14 +67,15 @@ class Value {
   void AddString(std::string_view key, std::string_view value);
   void AddText(std::string_view key, std::string_view json);
 
-  std::string_view Text() const;
-  char* Reserve(std::size_t capacity);
+  std::string_view Text() const { return {text_, size_}; }
+  void Reserve(std::size_t capacity);
 
   // A value is its own text, {"a":1,"b":2}, complete at any time. A usual record fits into the
   // value itself, so that building one allocates nothing.
+  char* text_;  ///< shortText_, or longText_ once the text does not fit any more.
   std::size_t size_;
   std::size_t capacity_;
-  std::unique_ptr<char[]> longText_;  ///< Null while the text fits into shortText_.
+  std::unique_ptr<char[]> longText_;
   char shortText_[512];
 };
 

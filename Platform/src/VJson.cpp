@@ -8,43 +8,45 @@
 
 namespace VJson {
 
-Value::Value() : size_(2), capacity_(sizeof shortText_) { std::memcpy(shortText_, "{}", 2); }
+Value::Value() : text_(shortText_), size_(2), capacity_(sizeof shortText_) {
+  std::memcpy(text_, "{}", 2);
+}
 
-Value::Value(const Value& other) : size_(0), capacity_(sizeof shortText_) { *this = other; }
+Value::Value(const Value& other) : text_(shortText_), size_(0), capacity_(sizeof shortText_) {
+  *this = other;
+}
 
 Value& Value::operator=(const Value& other) {
   if (this != &other) {
-    std::memcpy(Reserve(other.size_), other.Text().data(), other.size_);
+    Reserve(other.size_);
+    std::memcpy(text_, other.text_, other.size_);
     size_ = other.size_;
   }
   return *this;
 }
 
-std::string_view Value::Text() const {
-  return {longText_ == nullptr ? shortText_ : longText_.get(), size_};
-}
-
-/// Makes room for a text of `capacity` bytes, the present one kept; returns where it is.
-char* Value::Reserve(std::size_t capacity) {
-  if (capacity > capacity_) {
-    const std::size_t grown = std::max(capacity, 2 * capacity_);
-    std::unique_ptr<char[]> longer(new char[grown]);
-    std::memcpy(longer.get(), Text().data(), size_);
-    longText_ = std::move(longer);
-    capacity_ = grown;
+/// Makes room for a text of `capacity` bytes, the present one kept.
+void Value::Reserve(std::size_t capacity) {
+  if (capacity <= capacity_) {
+    return;
   }
-  return longText_ == nullptr ? shortText_ : longText_.get();
+  const std::size_t grown = std::max(capacity, 2 * capacity_);
+  std::unique_ptr<char[]> longer(new char[grown]);
+  std::memcpy(longer.get(), text_, size_);
+  longText_ = std::move(longer);
+  text_ = longText_.get();
+  capacity_ = grown;
 }
 
 /// Adds a member whose value `writeValue` puts at the place it is given, in `room` bytes at most.
 template <typename WriteValue>
 void Value::AddMember(std::string_view key, std::size_t room, WriteValue writeValue) {
-  if (Text()[0] != '{') {
+  if (text_[0] != '{') {
     return;
   }
   // Only this can run out of memory, and then nothing has changed yet.
-  char* const text = Reserve(size_ + JsonText::StringRoom(key) + room + 2);
-  char* out = text + size_ - 1;  // In place of the closing brace.
+  Reserve(size_ + JsonText::StringRoom(key) + room + 2);
+  char* out = text_ + size_ - 1;  // In place of the closing brace.
   if (size_ > 2) {
     *out++ = ',';
   }
@@ -52,7 +54,7 @@ void Value::AddMember(std::string_view key, std::size_t room, WriteValue writeVa
   *out++ = ':';
   out = writeValue(out);
   *out++ = '}';
-  size_ = static_cast<std::size_t>(out - text);
+  size_ = static_cast<std::size_t>(out - text_);
 }
 
 template <typename Number>
@@ -101,11 +103,15 @@ void Value::Add(std::string_view key, const Value& value) {
 }
 
 bool Value::Parse(const std::string& text) {
-  if (!JsonText::IsValid(text)) {
+  // Written behind what is there, which stays if the text turns out not to be JSON.
+  Reserve(size_ + JsonText::CompactedRoom(text.size()));
+  char* const begin = text_ + size_;
+  const char* const end = JsonText::WriteCompacted(begin, text);
+  if (end == nullptr) {
     return false;
   }
-  char* const out = Reserve(text.size());
-  size_ = static_cast<std::size_t>(JsonText::WriteCompacted(out, text) - out);
+  size_ = static_cast<std::size_t>(end - begin);
+  std::memmove(text_, begin, size_);
   return true;
 }
 

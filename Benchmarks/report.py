@@ -131,15 +131,21 @@ def machine(times):
     ])
 
 
+def write_table(document, begin, end, text):
+    """Puts the text between two marker lines of the document, in place of what stands there."""
+    path = pathlib.Path(document)
+    before, rest = path.read_text().split(begin)
+    after = rest.split(end)[1]
+    path.write_text(f"{before}{begin}\n{text}\n{end}{after}")
+
+
 def main():
     times = read_times(sys.argv[1])
     text = f"{machine(times)}\n\n{table(times)}"
     print(text)
     if len(sys.argv) > 2:
-        document = pathlib.Path(sys.argv[2])
-        before, rest = document.read_text().split(BEGIN)
-        after = rest.split(END)[1]
-        document.write_text(f"{before}{BEGIN}\n{text}\n{END}{after}")
+        write_table(sys.argv[2], BEGIN, END, text)
 
 
-main()
+if __name__ == "__main__":
+    main()

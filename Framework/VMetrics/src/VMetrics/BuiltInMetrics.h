@@ -8,17 +8,22 @@
 
 namespace vmetrics {
 
-/// One row: the key of the metric, and the three texts of its MetricEntry.
+/// The name of an event, with room for the longest.
+using BuiltInEventId = char[33];
+
+/// One row: the key of the metric, and the three texts of its MetricEntry. They stand in the row
+/// itself, so that nothing has to be relocated when the library is loaded; one that is too long
+/// does not compile.
 template <typename Key>
 struct BuiltInRow {
   Key key;
-  const char* type;
-  const char* name;
-  const char* privateFlag;
+  char type[9];
+  char name[30];
+  char privateFlag[2];
 };
 
 using BuiltInMetric = BuiltInRow<std::uint32_t>;
-using BuiltInEvent = BuiltInRow<const char*>;
+using BuiltInEvent = BuiltInRow<BuiltInEventId>;
 
 extern const std::array<BuiltInMetric, 121> kBuiltInMetrics;
 extern const std::array<BuiltInEvent, 13> kBuiltInEvents;

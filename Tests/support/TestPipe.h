@@ -46,7 +46,7 @@ class TestPipe {
 
   /// Waits for something to be in the pipe and takes it: a packet, or as much as there is.
   std::string Read() const {
-    std::string text(std::size_t{1} << 20, '\0');
+    std::string text(std::size_t{1} << 16, '\0');
     const ssize_t count = read(ends_[0], text.data(), text.size());
     text.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
     return text;

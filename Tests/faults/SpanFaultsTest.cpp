@@ -1,0 +1,240 @@
+// The span file and steps that end, on a machine that fails.
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "FailEachSystemCall.h"
+#include "FileContent.h"
+#include "LineRemains.h"
+#include "SpanIdentifierForm.h"
+#include "TemporaryDirectory.h"
+#include "VFileLock.h"
+#include "VLogger.h"
+#include "VMetrics.h"
+#include "VPlatformConfig.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+/// An identifier whose letters no real one has.
+constexpr char kOld[] = "zzzzzzzz-zzzz-zzzz-zzzz-zzzzzzzzzzzz";
+constexpr char kPlaceholder[] = "ParentSpanId";
+
+bool BeginsWith(const std::string& text, const std::string& beginning) {
+  return text.compare(0, beginning.size(), beginning) == 0;
+}
+
+/// The text of a member of the one line of JSON in `line`; empty where there is none.
+std::string Member(const std::string& line, const std::string& key) {
+  const std::string head = "\"" + key + "\":\"";
+  const std::size_t at = line.find(head);
+  return at == std::string::npos
+             ? ""
+             : line.substr(at + head.size(), line.find('"', at + head.size()) - at - head.size());
+}
+
+class SpanFaultsTest : public testing::Test {
+ protected:
+  SpanFaultsTest() {
+    EXPECT_TRUE(VPlatformConfig::SetLockFileDirectory(directory_.Path()));
+    EXPECT_TRUE(VPlatformConfig::SetMetricsFile(metrics_));
+    EXPECT_TRUE(VPlatformConfig::SetDiagnosticsFile(directory_ / "diagnostics"));
+  }
+
+  /// No look at the metrics file is due for some time.
+  void Prepare(const std::string& content) {
+    SystemCalls::Advance(500);
+    VLogger::GetInstance().Metrics("before");
+    FileContent::Write(metrics_, "");
+    FileContent::Write(span_, content);
+    old_ = content;
+  }
+  void PrepareMissing() {
+    Prepare("");
+    std::filesystem::remove(span_);
+  }
+
+  static void TraceStep() {
+    for (const int status : {0, 1}) {
+      EXPECT_EQ(KeepingErrno([&] {
+                  return VMetrics::InsertRecord(status, "t", "e", "s", "ParentSpanId", 0);
+                }),
+                0);
+    }
+  }
+
+  /// The next step is as any: its line whole, its parent what the file held, its identifier there.
+  void ExpectNextStep() {
+    const std::string parent = VMetrics::GetCurrentParentSpanId();
+    const std::string linesBefore = FileContent::Read(metrics_);
+    TraceStep();
+    const std::string lines = FileContent::Read(metrics_);
+    const std::string last = lines.substr(lines.rfind('\n', lines.size() - 2) + 1);
+    EXPECT_TRUE(BeginsWith(last, "{\"eventId\":\"e\",")) << lines;
+    EXPECT_EQ(Member(last, "parentSpanId"), parent);
+    EXPECT_PRED1(IsSpanIdentifier, Member(last, "spanId"));
+    EXPECT_EQ(FileContent::Read(span_), Member(last, "spanId"));
+    EXPECT_EQ(FileContent::Read(metrics_).find("\n\n"), std::string::npos) << lines;
+  }
+
+  /// The file holds the old identifier, the new one, or what a write that came short left of both.
+  void ExpectOldOrNew(const Attack& attack) const {
+    const std::string content = std::filesystem::exists(span_) ? FileContent::Read(span_) : "";
+    std::size_t fresh = 0;  // How far the new identifier reaches.
+    while (fresh < content.size() &&
+           std::string("0123456789abcdef-").find(content[fresh]) != std::string::npos &&
+           (content[fresh] != '-' || fresh == 8 || fresh == 13 || fresh == 18 || fresh == 23)) {
+      ++fresh;
+    }
+    if (fresh < 36) {
+      EXPECT_EQ(content.substr(fresh), fresh < old_.size() ? old_.substr(fresh) : "") << content;
+    } else {
+      EXPECT_PRED1(IsSpanIdentifier, content.substr(0, 36));
+      const bool uncut = content.size() == old_.size() && attack.call == SystemCall::kFtruncate;
+      EXPECT_TRUE(content.size() == 36 || uncut) << content;
+    }
+    const bool shortWrite = attack.call == SystemCall::kPwrite && attack.fault.error == 0;
+    EXPECT_TRUE(fresh == 0 || fresh == 36 || shortWrite) << content;
+  }
+
+  std::vector<std::string> AttackParent() {
+    std::string parent;
+    return FailEachSystemCall(
+        [&] { prepare_(); },
+        [&] { parent = KeepingErrno([] { return VMetrics::GetCurrentParentSpanId(); }); },
+        [&](const Attack&) {
+          EXPECT_TRUE(parent == kPlaceholder || BeginsWith(old_.substr(0, 128), parent)) << parent;
+          const bool missing = !std::filesystem::exists(span_);
+          EXPECT_EQ(missing ? "" : FileContent::Read(span_), old_);
+          ExpectNextStep();
+        });
+  }
+
+  std::vector<std::string> AttackStep() {
+    return FailEachSystemCall([&] { prepare_(); }, [] { TraceStep(); },
+                              [&](const Attack& attack) {
+                                ExpectOldOrNew(attack);
+                                ExpectStepsLine();
+                                ExpectNextStep();
+                              });
+  }
+
+  /// The step's line went out with its parent, or was lost.
+  void ExpectStepsLine() const {
+    const std::string line = FileContent::Read(metrics_);
+    if (!line.empty() && line.back() == '\n') {
+      EXPECT_PRED1(IsSpanIdentifier, Member(line, "spanId"));
+      const std::string parent = Member(line, "parentSpanId");
+      EXPECT_TRUE(parent == kPlaceholder || BeginsWith(old_.substr(0, 128), parent)) << line;
+    }
+  }
+
+  const TemporaryDirectory directory_;
+  const std::string metrics_ = directory_ / "metrics";
+  const std::string span_ = directory_ / "spanId";
+  std::string old_;  ///< What the file held before the run.
+  std::function<void()> prepare_ = [this] { Prepare(kOld); };
+};
+
+TEST_F(SpanFaultsTest, ParentThatIsRead) {
+  EXPECT_THAT(AttackParent(), ElementsAre("open", "close", "flock", "pread"));
+}
+
+TEST_F(SpanFaultsTest, ParentFromAFileThatIsMissing) {
+  prepare_ = [this] { PrepareMissing(); };
+  EXPECT_THAT(AttackParent(), ElementsAre("open", "close", "fchmod", "flock"));
+}
+
+TEST_F(SpanFaultsTest, EndOfAStep) {
+  EXPECT_THAT(AttackStep(),
+              ElementsAre("open", "close", "flock", "pread", "pwrite", "write", "getrlimit"));
+}
+
+TEST_F(SpanFaultsTest, EndOfAStepWhereTheFileIsMissing) {
+  prepare_ = [this] { PrepareMissing(); };
+  EXPECT_THAT(AttackStep(),
+              ElementsAre("open", "close", "fchmod", "flock", "pwrite", "write", "getrlimit"));
+}
+
+TEST_F(SpanFaultsTest, EndOfAStepWhereTheFileIsLonger) {
+  prepare_ = [this] { Prepare(std::string(200, 'z')); };
+  EXPECT_THAT(AttackStep(), ElementsAre("open", "close", "flock", "pread", "pwrite", "ftruncate",
+                                        "write", "getrlimit"));
+}
+
+// Somebody else keeps the lock, and something else goes wrong: two locks, the line and a diagnostic
+// may each take their tenth of a second.
+TEST_F(SpanFaultsTest, EndOfAStepWhereTheLockIsHeld) {
+  constexpr long kPatienceOfBoth = 410;
+  int holder = -1;
+  const auto prepare = [&] {
+    Prepare(kOld);
+    holder = open(span_.c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(flock(holder, LOCK_EX | LOCK_NB), 0);
+  };
+  const auto check = [&](const Attack&) {
+    EXPECT_EQ(FileContent::Read(span_), kOld);
+    const std::string line = FileContent::Read(metrics_);
+    if (!line.empty() && line.back() == '\n') {
+      EXPECT_EQ(Member(line, "parentSpanId"), kPlaceholder);
+    }
+    close(holder);
+    ExpectNextStep();
+  };
+  EXPECT_THAT(FailEachSystemCall(
+                  prepare, [] { TraceStep(); }, check, kPatienceOfBoth),
+              ElementsAre("open", "close", "flock", "write", "nanosleep"));
+}
+
+// What Write returns is what it did: all, a part, or nothing that counts.
+TEST_F(SpanFaultsTest, FileThatIsRewrittenAndReadUnderOneLock) {
+  const std::string path = directory_ / "file";
+  const std::string before(1000, 'b');
+  const std::string text(600, 't');
+  int written = 0;
+  bool locked = false;
+  std::string read;
+  const auto act = [&] {
+    errno = EDOM;
+    VFileLock file(path);
+    VFileLockGuard guard(file);
+    locked = guard.LockExclusive();
+    written = file.Write(text.data(), static_cast<int>(text.size()));
+    read.assign(1000, '\0');
+    const int count = file.Read(read.data(), 1000);
+    read.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
+    EXPECT_EQ(errno, EDOM);
+  };
+  const auto check = [&](const Attack& attack) {
+    const std::string content = FileContent::Read(path);
+    const std::string both = text + before.substr(text.size());
+    if (written == static_cast<int>(text.size())) {
+      EXPECT_EQ(content, text);
+    } else if (written >= 0) {
+      const auto part = static_cast<std::size_t>(written);
+      EXPECT_EQ(content, text.substr(0, part) + before.substr(part));
+    } else {
+      EXPECT_TRUE(content == before || content == both);
+    }
+    EXPECT_TRUE(locked || written == -1);
+    EXPECT_TRUE(BeginsWith(content, read));
+    EXPECT_TRUE(!locked || attack.call == SystemCall::kPread || read == content);
+    VFileLock file(path);
+    VFileLockGuard guard(file);
+    EXPECT_TRUE(guard.LockExclusive());
+    EXPECT_EQ(file.Write("next", 4), 4);
+    EXPECT_EQ(FileContent::Read(path), "next");
+  };
+  EXPECT_THAT(FailEachSystemCall([&] { FileContent::Write(path, before); }, act, check),
+              ElementsAre("open", "close", "flock", "pread", "pwrite", "ftruncate", "getrlimit"));
+}
+
+}  // namespace

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "FileContent.h"
 #include "FileSizeLimit.h"
 #include "LineRemains.h"
+#include "NonRegularFiles.h"
 #include "TemporaryDirectory.h"
 #include "VLogger.h"
 #include "VMetrics.h"
@@ -159,6 +161,29 @@ TEST_F(LineFaultsTest, LineAfterTheFileWasMovedAway) {
   EXPECT_THAT(FailEachSystemCall(
                   prepare, [&] { Write(line); }, check),
               ElementsAre("open", "close", "lstat", "dup3", "write", "getrlimit"));
+}
+
+// Lines go on to the file that was moved away, until a file can be made in its place.
+TEST_F(LineFaultsTest, WhatTookThePlaceOfTheFileIsRefused) {
+  const std::string moved = directory_ / "moved";
+  const NonRegularFiles files;
+  for (const std::string& name : files.Names()) {
+    SCOPED_TRACE(name);
+    if (name == "/dev/null") {
+      continue;  // It stays where it is.
+    }
+    Prepare();
+    ASSERT_EQ(std::rename(metrics_.c_str(), moved.c_str()), 0);
+    ASSERT_EQ(std::rename(name.c_str(), metrics_.c_str()), 0);
+    SystemCalls::Advance(kLookMilliseconds);
+    Write("line");
+    EXPECT_EQ(FileContent::Read(moved), "before\nline\n");
+    std::filesystem::remove(metrics_);
+    SystemCalls::Advance(kLookMilliseconds);
+    Write("next");
+    EXPECT_EQ(FileContent::Read(metrics_), "next\n");
+  }
+  EXPECT_TRUE(files.TargetsUntouched());
 }
 
 }  // namespace

@@ -48,6 +48,17 @@ class ChildProcess {
 
   void Kill(int signal) const { kill(id_, signal); }
 
+  /// Stops it where it is, until Kill(SIGCONT); returns when it stands still.
+  void Stop() const {
+    Kill(SIGSTOP);
+    int status = 0;
+    while (waitpid(id_, &status, WUNTRACED) < 0 && errno == EINTR) {
+    }
+    if (!WIFSTOPPED(status)) {
+      throw std::runtime_error("the child ended instead of stopping");
+    }
+  }
+
   /// Waits for its end and tells it: "exited with 0", "killed by signal 9".
   std::string Wait() {
     int status = 0;

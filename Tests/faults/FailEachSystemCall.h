@@ -31,6 +31,15 @@ struct Attack {
   SystemCallFailure::Extent extent;
   int first;
 
+  /// Whether nobody should notice: a call that was interrupted, or moved something, can be made
+  /// again.
+  bool Passes() const {
+    const bool repeatable = call >= SystemCall::kFlock && call <= SystemCall::kNanosleep;
+    const bool partial = fault.error == 0 && fault.part(1) > 0;
+    return extent == SystemCallFailure::Extent::kOnce && repeatable &&
+           (fault.error == EINTR || partial);
+  }
+
   std::string Name() const {
     return std::string(SystemCalls::NameOf(call)) + " " + std::to_string(first) + ", " +
            fault.name + (extent == SystemCallFailure::Extent::kOnce ? ", once" : ", from there on");

@@ -75,7 +75,14 @@ class LineFaultsTest : public testing::Test {
           Prepare();
           SystemCalls::Advance(pause);
         },
-        [&] { Write(line); }, [&](const auto&) { ExpectNextLine(line); });
+        [&] { Write(line); },
+        [&](const auto& attack) {
+          ExpectNextLine(line);
+          if (attack.Passes()) {
+            EXPECT_EQ(FileContent::Read(metrics_), "before\n" + line + "\nnext\n");
+            EXPECT_EQ(FileContent::Read(diagnostics_), "");
+          }
+        });
   }
 
   const TemporaryDirectory directory_;

@@ -32,6 +32,10 @@ bool BeginsWith(const std::string& text, const std::string& beginning) {
   return text.compare(0, beginning.size(), beginning) == 0;
 }
 
+bool EndsWith(const std::string& text, const std::string& end) {
+  return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+
 /// The text of a member of the one line of JSON in `line`; empty where there is none.
 std::string Member(const std::string& line, const std::string& key) {
   const std::string head = "\"" + key + "\":\"";
@@ -74,15 +78,25 @@ class SpanFaultsTest : public testing::Test {
   /// The next step is as any: its line whole, its parent what the file held, its identifier there.
   void ExpectNextStep() {
     const std::string parent = VMetrics::GetCurrentParentSpanId();
-    const std::string linesBefore = FileContent::Read(metrics_);
     TraceStep();
+    ExpectLastStepInFile();
     const std::string lines = FileContent::Read(metrics_);
-    const std::string last = lines.substr(lines.rfind('\n', lines.size() - 2) + 1);
-    EXPECT_TRUE(BeginsWith(last, "{\"eventId\":\"e\",")) << lines;
-    EXPECT_EQ(Member(last, "parentSpanId"), parent);
+    EXPECT_EQ(Member(LastLine(), "parentSpanId"), parent);
+    EXPECT_EQ(lines.find("\n\n"), std::string::npos) << lines;
+  }
+
+  /// The last line is a step's, whole, and its identifier all that is in the file.
+  void ExpectLastStepInFile() const {
+    const std::string last = LastLine();
+    EXPECT_TRUE(BeginsWith(last, "{\"eventId\":\"e\",")) << last;
+    EXPECT_TRUE(EndsWith(last, "}}\n")) << last;
     EXPECT_PRED1(IsSpanIdentifier, Member(last, "spanId"));
     EXPECT_EQ(FileContent::Read(span_), Member(last, "spanId"));
-    EXPECT_EQ(FileContent::Read(metrics_).find("\n\n"), std::string::npos) << lines;
+  }
+
+  std::string LastLine() const {
+    const std::string lines = FileContent::Read(metrics_);
+    return lines.substr(lines.size() < 2 ? 0 : lines.rfind('\n', lines.size() - 2) + 1);
   }
 
   /// The file holds the old identifier, the new one, or what a write that came short left of both.
@@ -110,7 +124,8 @@ class SpanFaultsTest : public testing::Test {
     return FailEachSystemCall(
         [&] { prepare_(); },
         [&] { parent = KeepingErrno([] { return VMetrics::GetCurrentParentSpanId(); }); },
-        [&](const Attack&) {
+        [&](const Attack& attack) {
+          EXPECT_TRUE(!attack.Passes() || parent == old_.substr(0, 128)) << parent;
           EXPECT_TRUE(parent == kPlaceholder || BeginsWith(old_.substr(0, 128), parent)) << parent;
           const bool missing = !std::filesystem::exists(span_);
           EXPECT_EQ(missing ? "" : FileContent::Read(span_), old_);
@@ -123,6 +138,9 @@ class SpanFaultsTest : public testing::Test {
                               [&](const Attack& attack) {
                                 ExpectOldOrNew(attack);
                                 ExpectStepsLine();
+                                if (attack.Passes()) {
+                                  ExpectLastStepInFile();
+                                }
                                 ExpectNextStep();
                               });
   }

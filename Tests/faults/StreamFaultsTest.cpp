@@ -26,7 +26,8 @@ int WriteLine(LineChannel& channel, const std::string& text) {
 template <typename Read>
 std::vector<std::string> Attack(LineChannel& channel, const std::string& line, Read read) {
   int error = 0;
-  const auto check = [&](const auto&) {
+  const auto check = [&](const auto& attack) {
+    EXPECT_TRUE(error == 0 || !attack.Passes());
     std::string content = read();
     EXPECT_EQ(WriteLine(channel, "next"), 0);
     content += read();

@@ -37,8 +37,11 @@ class TestPipe {
     const int flags = fcntl(ends_[1], F_GETFL);
     fcntl(ends_[1], F_SETFL, flags | O_NONBLOCK);
     std::size_t count = 0;
-    while (write(ends_[1], ".", 1) == 1) {
-      ++count;
+    const std::string dots(4096, '.');
+    for (const std::size_t size : {dots.size(), std::size_t{1}}) {
+      while (write(ends_[1], dots.data(), size) > 0) {
+        count += size;
+      }
     }
     fcntl(ends_[1], F_SETFL, flags);
     return count;

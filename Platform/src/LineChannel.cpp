@@ -25,11 +25,11 @@ constexpr long kLookEveryMilliseconds = 500;
 constexpr std::size_t kGatheredSize = 4096;
 
 /// Opens a file for appending, refusing whatever is not a regular file; -1 with errno on failure.
-int OpenRegular(const char* path) {
+/// `status` becomes the file's.
+int OpenRegular(const char* path, struct stat& status) {
   // Not blocking: a FIFO by that name would hold us until somebody opened its other end.
   const int descriptor = open(
       path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY, 0600);
-  struct stat status;
   if (descriptor >= 0 && (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))) {
     close(descriptor);
     errno = EINVAL;
@@ -71,8 +71,8 @@ class Stream {
     if (own_ >= 0) {
       return write(own_, data, size);
     }
-    // A socket cannot be opened, nor can a pipe whose reader is gone, which fails at once. Only
-    // what the process may not open any more is left, and may make it wait.
+    // A socket cannot be opened. Beside it only what the process may not open any more is left, and
+    // may make it wait.
     const ssize_t sent = send(descriptor_, data, size, MSG_DONTWAIT | MSG_NOSIGNAL);
     return sent < 0 && errno == ENOTSOCK ? write(descriptor_, data, size) : sent;
   }
@@ -151,8 +151,9 @@ bool LineChannel::OpenFile(const std::string& path) {
     errno = path.empty() ? ENOENT : error ? error.value() : ENAMETOOLONG;
     return false;
   }
-  const int opened = OpenRegular(absolute.c_str());
-  if (opened < 0 || !Adopt(opened)) {
+  struct stat status;
+  const int opened = OpenRegular(absolute.c_str(), status);
+  if (opened < 0 || !Adopt(opened, status)) {
     return false;
   }
   std::memcpy(path_, absolute.c_str(), absolute.size() + 1);
@@ -161,9 +162,7 @@ bool LineChannel::OpenFile(const std::string& path) {
 
 /// Makes `opened` the channel's file. A descriptor that is ours keeps its number, so that a thread
 /// in the middle of a line writes to the old file or to the new one, and never to a closed one.
-bool LineChannel::Adopt(int opened) {
-  struct stat status;
-  fstat(opened, &status);
+bool LineChannel::Adopt(int opened, const struct stat& status) {
   // Numbers below 3 belong to the standard streams, even where the host has closed them.
   const int adopted = path_[0] != '\0' && IsOurs() ? dup3(opened, descriptor_, O_CLOEXEC)
                                                    : fcntl(opened, F_DUPFD_CLOEXEC, 3);
@@ -177,15 +176,17 @@ bool LineChannel::Adopt(int opened) {
   inode_ = status.st_ino;
   descriptor_ = adopted;
   endsInside_ = false;
-  Classify();
+  kind_ = KindOfFile();
   return true;
 }
 
 /// Whether the descriptor still is the file that we opened. In a host that closes descriptors it
-/// does not know, the number may have become something of the host's own.
+/// does not know, the number may have become something of the host's own. Where the system does not
+/// say, it has not: giving up a descriptor that is open would leak it.
 bool LineChannel::IsOurs() const {
   struct stat status;
-  return fstat(descriptor_, &status) == 0 && status.st_dev == device_ && status.st_ino == inode_;
+  return fstat(descriptor_, &status) == 0 ? status.st_dev == device_ && status.st_ino == inode_
+                                          : errno != EBADF;
 }
 
 /// Opens the file anew if it no longer stands under its name. Where that fails, lines go on to the
@@ -198,17 +199,25 @@ void LineChannel::FollowFile() {
   if (inPlace) {
     return;
   }
-  const int opened = OpenRegular(path_);
-  if ((opened < 0 || !Adopt(opened)) && !ours) {
+  const int opened = OpenRegular(path_, status);
+  if ((opened < 0 || !Adopt(opened, status)) && !ours) {
     descriptor_ = -1;
   }
 }
 
-/// Where there is no descriptor any more a write fails at once, as it does for a file.
+LineChannel::Kind LineChannel::KindOfFile() {
+  return HasFileSizeLimit() ? Kind::kLimitedFile : Kind::kFile;
+}
+
+/// Where there is no descriptor any more a write fails at once, as it does for a file. Where the
+/// system does not say what there is, it stays what it was.
 void LineChannel::Classify() {
   struct stat status;
-  const bool stream = fstat(descriptor_, &status) == 0 && !S_ISREG(status.st_mode);
-  kind_ = stream ? Kind::kStream : HasFileSizeLimit() ? Kind::kLimitedFile : Kind::kFile;
+  if (fstat(descriptor_, &status) == 0) {
+    kind_ = S_ISREG(status.st_mode) ? KindOfFile() : Kind::kStream;
+  } else if (errno == EBADF) {
+    kind_ = Kind::kFile;
+  }
 }
 
 /// Sees to what may have changed around the channel: for a file of ours seldom enough to cost the

@@ -2,6 +2,7 @@
 #ifndef PLATFORM_LINECHANNEL_H_
 #define PLATFORM_LINECHANNEL_H_
 
+#include <sys/stat.h>
 #include <sys/types.h>
 
 #include <atomic>
@@ -39,10 +40,11 @@ class LineChannel {
   class Line;
 
   void Look();
+  static Kind KindOfFile();
   void Classify();
   void FollowFile();
   bool IsOurs() const;
-  bool Adopt(int opened);
+  bool Adopt(int opened, const struct stat& status);
   int Push(Line& line);
   int PushToFile(Line& line);
   int PushToStream(Line& line);

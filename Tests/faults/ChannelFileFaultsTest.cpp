@@ -83,7 +83,7 @@ TEST_F(ChannelFileFaultsTest, FirstFile) {
     CloseFiles();
   };
   EXPECT_THAT(FailEachSystemCall([&] { Prepare(); }, [&] { Open(first_); }, check),
-              ElementsAre("open", "close", "fcntl", "getrlimit"));
+              ElementsAre("open", "close", "fstat", "fcntl", "getrlimit"));
 }
 
 // The second file takes the place of the first, or lines go on to the first.
@@ -104,7 +104,7 @@ TEST_F(ChannelFileFaultsTest, SecondFile) {
   };
   EXPECT_THAT(FailEachSystemCall(
                   prepare, [&] { Open(second_); }, check),
-              ElementsAre("open", "close", "dup3", "getrlimit"));
+              ElementsAre("open", "close", "fstat", "dup3", "getrlimit"));
 }
 
 // The host closed the channel's descriptor. The file is opened anew at the next look that can.
@@ -126,7 +126,7 @@ TEST_F(ChannelFileFaultsTest, FileThatTheHostHasClosed) {
   };
   EXPECT_THAT(FailEachSystemCall(
                   prepare, [&] { WriteLine("line"); }, check),
-              ElementsAre("open", "close", "fcntl", "write", "getrlimit"));
+              ElementsAre("open", "close", "fstat", "fcntl", "write", "getrlimit"));
 }
 
 }  // namespace

@@ -97,7 +97,8 @@ TEST_F(LineFaultsTest, LineThatIsGatheredByTheSystem) {
 }
 
 TEST_F(LineFaultsTest, LineAtALookAtTheFile) {
-  EXPECT_THAT(Attack("secret", kLookMilliseconds), ElementsAre("lstat", "write", "getrlimit"));
+  EXPECT_THAT(Attack("secret", kLookMilliseconds),
+              ElementsAre("fstat", "lstat", "write", "getrlimit"));
 }
 
 TEST_F(LineFaultsTest, LineUnderASizeLimit) {
@@ -140,7 +141,7 @@ TEST_F(LineFaultsTest, Diagnostic) {
                                 head + "message [file:0]", head + "next [file:0]"));
   };
   EXPECT_THAT(FailEachSystemCall([&] { Prepare(); }, [&] { log("message"); }, check),
-              ElementsAre("lstat", "write", "getrlimit"));
+              ElementsAre("fstat", "lstat", "write", "getrlimit"));
 }
 
 // What went to the file that was moved away stays there; after the next look, lines are in the new.
@@ -167,7 +168,7 @@ TEST_F(LineFaultsTest, LineAfterTheFileWasMovedAway) {
   };
   EXPECT_THAT(FailEachSystemCall(
                   prepare, [&] { Write(line); }, check),
-              ElementsAre("open", "close", "lstat", "dup3", "write", "getrlimit"));
+              ElementsAre("open", "close", "fstat", "lstat", "dup3", "write", "getrlimit"));
 }
 
 // Lines go on to the file that was moved away, until a file can be made in its place.

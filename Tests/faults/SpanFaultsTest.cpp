@@ -163,29 +163,29 @@ class SpanFaultsTest : public testing::Test {
 };
 
 TEST_F(SpanFaultsTest, ParentThatIsRead) {
-  EXPECT_THAT(AttackParent(), ElementsAre("open", "close", "flock", "pread"));
+  EXPECT_THAT(AttackParent(), ElementsAre("open", "close", "fstat", "flock", "pread"));
 }
 
 TEST_F(SpanFaultsTest, ParentFromAFileThatIsMissing) {
   prepare_ = [this] { PrepareMissing(); };
-  EXPECT_THAT(AttackParent(), ElementsAre("open", "close", "fchmod", "flock"));
+  EXPECT_THAT(AttackParent(), ElementsAre("open", "close", "fstat", "fchmod", "flock"));
 }
 
 TEST_F(SpanFaultsTest, EndOfAStep) {
-  EXPECT_THAT(AttackStep(),
-              ElementsAre("open", "close", "flock", "pread", "pwrite", "write", "getrlimit"));
+  EXPECT_THAT(AttackStep(), ElementsAre("open", "close", "fstat", "flock", "pread", "pwrite",
+                                        "write", "getrlimit"));
 }
 
 TEST_F(SpanFaultsTest, EndOfAStepWhereTheFileIsMissing) {
   prepare_ = [this] { PrepareMissing(); };
-  EXPECT_THAT(AttackStep(),
-              ElementsAre("open", "close", "fchmod", "flock", "pwrite", "write", "getrlimit"));
+  EXPECT_THAT(AttackStep(), ElementsAre("open", "close", "fstat", "fchmod", "flock", "pwrite",
+                                        "write", "getrlimit"));
 }
 
 TEST_F(SpanFaultsTest, EndOfAStepWhereTheFileIsLonger) {
   prepare_ = [this] { Prepare(std::string(200, 'z')); };
-  EXPECT_THAT(AttackStep(), ElementsAre("open", "close", "flock", "pread", "pwrite", "ftruncate",
-                                        "write", "getrlimit"));
+  EXPECT_THAT(AttackStep(), ElementsAre("open", "close", "fstat", "flock", "pread", "pwrite",
+                                        "ftruncate", "write", "getrlimit"));
 }
 
 // Somebody else keeps the lock, and something else goes wrong: two locks, the line and a diagnostic
@@ -251,8 +251,9 @@ TEST_F(SpanFaultsTest, FileThatIsRewrittenAndReadUnderOneLock) {
     EXPECT_EQ(file.Write("next", 4), 4);
     EXPECT_EQ(FileContent::Read(path), "next");
   };
-  EXPECT_THAT(FailEachSystemCall([&] { FileContent::Write(path, before); }, act, check),
-              ElementsAre("open", "close", "flock", "pread", "pwrite", "ftruncate", "getrlimit"));
+  EXPECT_THAT(
+      FailEachSystemCall([&] { FileContent::Write(path, before); }, act, check),
+      ElementsAre("open", "close", "fstat", "flock", "pread", "pwrite", "ftruncate", "getrlimit"));
 }
 
 }  // namespace

@@ -43,14 +43,14 @@ TEST(StreamFaultsTest, LineToAPipe) {
   const TestPipe pipe;
   LineChannel channel(pipe.Writer());
   EXPECT_THAT(Attack(channel, "line", [&] { return pipe.Drain(); }),
-              ElementsAre("open", "close", "write", "poll"));
+              ElementsAre("open", "close", "fstat", "write", "poll"));
 }
 
 TEST(StreamFaultsTest, LineToAPipeInPieces) {
   const TestPipe pipe;
   LineChannel channel(pipe.Writer());
   EXPECT_THAT(Attack(channel, std::string(10'000, 'x'), [&] { return pipe.Drain(); }),
-              ElementsAre("open", "close", "write", "poll"));
+              ElementsAre("open", "close", "fstat", "write", "poll"));
 }
 
 TEST(StreamFaultsTest, LineToASocket) {
@@ -66,7 +66,7 @@ TEST(StreamFaultsTest, LineToASocket) {
     return text;
   };
   EXPECT_THAT(Attack(channel, std::string(10'000, 'x'), readAll),
-              ElementsAre("open", "send", "poll"));
+              ElementsAre("open", "fstat", "send", "poll"));
   close(ends[0]);
   close(ends[1]);
 }
@@ -85,7 +85,7 @@ TEST(StreamFaultsTest, LineToAFullPipe) {
   };
   EXPECT_THAT(FailEachSystemCall([&] { filled = pipe.Fill(); },
                                  [&] { error = WriteLine(channel, "lost"); }, check),
-              ElementsAre("open", "close", "poll"));
+              ElementsAre("open", "close", "fstat", "poll"));
 }
 
 // The reader is gone, and a signal kills who does not keep it away.
@@ -100,7 +100,7 @@ TEST(StreamFaultsTest, LineToAPipeWhoseReaderIsGone) {
     EXPECT_EQ(WriteLine(channel, "next"), EPIPE);
   };
   EXPECT_THAT(FailEachSystemCall([] {}, [&] { error = WriteLine(channel, "lost"); }, check),
-              ElementsAre("open", "close", "write", "poll"));
+              ElementsAre("open", "close", "fstat", "write", "poll"));
 }
 
 }  // namespace

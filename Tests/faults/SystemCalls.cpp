@@ -93,10 +93,11 @@ constexpr bool MovesBytes(SystemCall call) {
 
 const std::vector<SystemCall>& SystemCalls::All() {
   static const std::vector<SystemCall>& all = *new std::vector<SystemCall>{
-      SystemCall::kOpen,   SystemCall::kClose,     SystemCall::kLstat,     SystemCall::kFchmod,
-      SystemCall::kFcntl,  SystemCall::kDup3,      SystemCall::kFlock,     SystemCall::kPread,
-      SystemCall::kPwrite, SystemCall::kFtruncate, SystemCall::kWrite,     SystemCall::kWritev,
-      SystemCall::kSend,   SystemCall::kPoll,      SystemCall::kNanosleep, SystemCall::kGetrlimit};
+      SystemCall::kOpen,     SystemCall::kClose,  SystemCall::kFstat,     SystemCall::kLstat,
+      SystemCall::kFchmod,   SystemCall::kFcntl,  SystemCall::kDup3,      SystemCall::kFlock,
+      SystemCall::kPread,    SystemCall::kPwrite, SystemCall::kFtruncate, SystemCall::kWrite,
+      SystemCall::kWritev,   SystemCall::kSend,   SystemCall::kPoll,      SystemCall::kNanosleep,
+      SystemCall::kGetrlimit};
   return all;
 }
 

@@ -261,11 +261,12 @@ int LineChannel::PushToFile(Line& line) {
   Deadline deadline(kLongestWaitMilliseconds);
   while (line.Left() > 0) {
     const ssize_t written = WriteToFile(line);
+    if (written == static_cast<ssize_t>(line.Left())) {
+      return 0;
+    }
     if (written > 0) {
       line.Advance(static_cast<std::size_t>(written));
-      if (line.Left() > 0) {
-        Classify();  // A file that takes only a part may have met a limit set since we looked.
-      }
+      Classify();  // A file that takes only a part may have met a limit set since we looked.
     } else if (written == 0 || errno != EINTR || deadline.Passed()) {
       return written == 0 ? EIO : errno;
     }

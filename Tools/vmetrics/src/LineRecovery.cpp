@@ -1,0 +1,105 @@
+#include "LineRecovery.h"
+
+#include <algorithm>
+
+namespace vmetrics {
+
+namespace {
+
+constexpr std::size_t kNowhere = std::string_view::npos;
+
+std::string_view WithoutTrailingBlanks(std::string_view text) {
+  return text.substr(0, text.find_last_not_of(" \t\r\n") + 1);
+}
+
+bool StartsWith(std::string_view text, std::string_view start) {
+  return text.substr(0, start.size()) == start;
+}
+
+/// Whether the character at `at` has an odd number of backslashes in front of it.
+bool IsEscaped(std::string_view text, std::size_t at) {
+  const std::size_t before = text.substr(0, at).find_last_not_of('\\');
+  const std::size_t backslashes = before == kNowhere ? at : at - before - 1;
+  return backslashes % 2 != 0;
+}
+
+/// Where the object begins that ends with the last character of `text`, if one does: going back
+/// from there, at the first brace that leaves none open.
+///
+/// No other place comes into question, which makes the search linear. A brace within this object is
+/// closed before the end, and one within a string of it would turn strings into gaps and gaps into
+/// strings for the rest of the text, in which only one of the two readings can be JSON.
+std::size_t StartOfLastObject(std::string_view text) {
+  std::size_t open = 0;
+  bool inString = false;
+  for (std::size_t at = text.size(); at-- > 0;) {
+    const char c = text[at];
+    if (c == '"') {
+      inString = inString != !IsEscaped(text, at);
+    } else if (inString) {
+      continue;
+    } else if (c == '}' || c == ']') {
+      ++open;
+    } else if ((c == '{' || c == '[') && --open == 0) {
+      return c == '{' ? at : kNowhere;
+    }
+  }
+  return kNowhere;
+}
+
+/// Whether a JSON text that was cut off here could go on with an object.
+bool AsksForValue(std::string_view fragment) {
+  constexpr std::string_view kBeforeValues = ":,[";
+  return !fragment.empty() && kBeforeValues.find(fragment.back()) != kNowhere;
+}
+
+bool BeginsLikeALine(std::string_view text) {
+  return StartsWith(text, "{\"eventId\":") || StartsWith(text, "{\"timestamp\":");
+}
+
+}  // namespace
+
+const std::vector<std::string_view>& LineRecovery::TextsOf(std::string_view line) {
+  texts_.clear();
+  const std::size_t firstBrace = line.find('{');
+  std::string_view rest = WithoutTrailingBlanks(line);
+  if (firstBrace != kNowhere && check_.IsObject(rest.substr(firstBrace))) {
+    texts_.push_back(rest.substr(firstBrace));  // As nearly always, and far faster than by search.
+    ++total_.whole;
+    return texts_;
+  }
+  while (TakeLastText(rest, firstBrace)) {
+  }
+  std::reverse(texts_.begin(), texts_.end());
+  Count(rest, firstBrace);
+  return texts_;
+}
+
+/// Moves the object with which `rest` ends from there to the texts, if there is one.
+bool LineRecovery::TakeLastText(std::string_view& rest, std::size_t firstBrace) {
+  if (rest.empty() || rest.back() != '}') {
+    return false;
+  }
+  const std::size_t start = StartOfLastObject(rest);
+  if (start == kNowhere) {
+    return false;
+  }
+  const std::string_view text = rest.substr(start);
+  const std::string_view before = WithoutTrailingBlanks(rest.substr(0, start));
+  const bool isMember = firstBrace < start && AsksForValue(before) && !BeginsLikeALine(text);
+  if (isMember || !check_.IsObject(text)) {
+    return false;
+  }
+  texts_.push_back(text);
+  rest = before;
+  return true;
+}
+
+void LineRecovery::Count(std::string_view rest, std::size_t firstBrace) {
+  const bool isFragment = texts_.empty() ? !rest.empty() : firstBrace < rest.size();
+  total_.fragments += isFragment ? 1 : 0;
+  const bool isAlone = texts_.size() == 1 && !isFragment;
+  (isAlone ? total_.whole : total_.recovered) += texts_.size();
+}
+
+}  // namespace vmetrics

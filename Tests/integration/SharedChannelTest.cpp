@@ -2,60 +2,20 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <poll.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <list>
 #include <string>
 #include <vector>
 
-#include "NumberedLines.h"
+#include "NumberedLinesReader.h"
 #include "ProbeProcess.h"
 #include "TemporaryDirectory.h"
 
 namespace {
 
 constexpr int kProcesses = 8;
-
-/// Takes the lines of a channel in their order and compares each, letter for letter, with what its
-/// process must have written under that number.
-class NumberedLinesReader {
- public:
-  explicit NumberedLinesReader(int longest) : longest_(longest) {}
-
-  void Take(const std::string& line) {
-    int process = -1;
-    int number = -1;
-    const bool numbered = std::sscanf(line.c_str(), "%d %d", &process, &number) == 2 &&
-                          process >= 0 && process < kProcesses && number >= next_[process];
-    if (numbered && line == NumberedLine(process, number, NumberedLineLength(number, longest_))) {
-      lost_[process] += number - next_[process];
-      next_[process] = number + 1;
-    } else {
-      ++wrong_;
-      firstWrong_ = wrong_ == 1 ? line.substr(0, 100) : firstWrong_;
-    }
-  }
-
-  /// No line was torn, mixed with another or out of its process's order.
-  void ExpectNoneWrong() const {
-    EXPECT_EQ(wrong_, 0) << "the first wrong one begins with: " << firstWrong_;
-  }
-
-  /// How many of the `count` lines of a process did not come.
-  int Lost(int process, int count) const { return lost_[process] + count - next_[process]; }
-
- private:
-  int longest_;
-  int next_[kProcesses] = {};
-  int lost_[kProcesses] = {};
-  int wrong_ = 0;
-  std::string firstWrong_;
-};
 
 /// Eight processes that write `count` lines each, from the moment when all of them are there.
 class Writers {
@@ -103,7 +63,7 @@ TEST(SharedChannelTest, FileTakesEveryLineWholeAndInOrder) {
     EXPECT_EQ(diagnostics, "");
   }
 
-  NumberedLinesReader reader(kLongest);
+  NumberedLinesReader reader(kProcesses, kLongest);
   std::ifstream metrics(path, std::ios::binary);
   for (std::string line; std::getline(metrics, line);) {
     reader.Take(line);
@@ -111,39 +71,6 @@ TEST(SharedChannelTest, FileTakesEveryLineWholeAndInOrder) {
   reader.ExpectNoneWrong();
   for (int process = 0; process < kProcesses; ++process) {
     EXPECT_EQ(reader.Lost(process, kCount), 0) << process;
-  }
-}
-
-/// All that comes through the pipe until its last writer is gone.
-std::string ReadPipe(int pipe) {
-  std::string text;
-  std::vector<char> block(1 << 20);
-  ssize_t count = 0;
-  do {
-    pollfd readable = {pipe, POLLIN, 0};
-    const bool inTime = poll(&readable, 1, 120'000) == 1;
-    EXPECT_TRUE(inTime) << "no writer wrote or ended";
-    count = inTime ? read(pipe, block.data(), block.size()) : 0;
-    text.append(block.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-  } while (count > 0);
-  return text;
-}
-
-/// Expects what a process says of its losses to agree with `lost`. It tells of a loss when it
-/// begins, and of its size with the next line that goes out, if there is one.
-void ExpectTold(int lost, const std::string& diagnostics) {
-  int told = 0;
-  bool open = false;
-  for (const std::string& line : LinesOf(diagnostics)) {
-    const std::string over = "written to again, lines lost: ";
-    const std::size_t at = line.find(over);
-    open = at == std::string::npos;
-    told += open ? 0 : std::atoi(line.c_str() + at + over.size());
-  }
-  if (open) {
-    EXPECT_GT(lost, told) << diagnostics;
-  } else {
-    EXPECT_EQ(lost, told) << diagnostics;
   }
 }
 
@@ -164,7 +91,7 @@ TEST(SharedChannelTest, PipeTakesLinesUpTo4095BytesWholeAndInOrder) {
   const std::string text = ReadPipe(metrics[0]);
   close(metrics[0]);
 
-  NumberedLinesReader reader(kLongest);
+  NumberedLinesReader reader(kProcesses, kLongest);
   for (const std::string& line : LinesOf(text)) {
     reader.Take(line);
   }

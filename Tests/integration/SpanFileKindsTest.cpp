@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,6 +10,7 @@
 #include <string>
 
 #include "FileContent.h"
+#include "HeldLock.h"
 #include "JsonLines.h"
 #include "ProbeProcess.h"
 #include "SpanIdentifierForm.h"
@@ -21,21 +21,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::MatchesRegex;
-
-/// Holds a lock on the file as another process would.
-class HeldLock {
- public:
-  HeldLock(const std::string& path, int operation)
-      : descriptor_(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {
-    EXPECT_EQ(flock(descriptor_, operation), 0);
-  }
-  ~HeldLock() { close(descriptor_); }
-  HeldLock(const HeldLock&) = delete;
-  HeldLock& operator=(const HeldLock&) = delete;
-
- private:
-  int descriptor_;
-};
 
 class SpanFileKindsTest : public testing::Test {
  protected:

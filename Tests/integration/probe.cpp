@@ -16,6 +16,7 @@
 #include "FileSizeLimit.h"
 #include "NumberedLines.h"
 #include "ProbeCalls.h"
+#include "ProbeSignals.h"
 #include "ProbeThreads.h"
 #include "VLogger.h"
 #include "VMetrics.h"
@@ -115,6 +116,9 @@ const std::map<std::string, Command>& Commands() {
       {"limit-file-size", {1, [](char** a) { LimitFileSize(strtoul(a[0], nullptr, 10)); }}},
       {"lift-file-size-limit", {0, [](char**) { FileSizeLimit::Lift(); }}},
       {"lines", {3, [](char** a) { WriteNumberedLines(atoi(a[0]), atoi(a[1]), atoi(a[2])); }}},
+      {"signals", {0, [](char**) { RaiseSignals(); }}},
+      {"work-under-signals",
+       {3, [](char** a) { WorkUnderSignals(atoi(a[0]), atoi(a[1]), atoi(a[2])); }}},
       {"threads", {2, [](char** a) { CallFromThreads(atoi(a[0]), atoi(a[1])); }}},
       {"forks", {1, [](char** a) { ForkAmongThreads(atoi(a[0])); }}},
   };

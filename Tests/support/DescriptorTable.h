@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <iterator>
 #include <string>
@@ -15,6 +16,20 @@ namespace DescriptorTable {
 inline long Count() {
   const std::filesystem::directory_iterator all("/proc/self/fd");
   return std::distance(begin(all), end(all)) - 1;  // Less the one that is open for counting.
+}
+
+/// Their numbers in order, less the one that is open for listing.
+inline std::vector<int> All() {
+  std::vector<int> numbers;
+  for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+    numbers.push_back(std::stoi(entry.path().filename().string()));
+  }
+  // That one is closed again by now.
+  numbers.erase(std::remove_if(numbers.begin(), numbers.end(),
+                               [](int number) { return fcntl(number, F_GETFD) < 0; }),
+                numbers.end());
+  std::sort(numbers.begin(), numbers.end());
+  return numbers;
 }
 
 /// Those that `path` is open on.

@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <fstream>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -28,6 +31,7 @@ constexpr bool kAllocatorSurvivesFork = false;
 constexpr bool kAllocatorSurvivesFork = true;
 #endif
 
+using testing::Each;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -62,6 +66,16 @@ class LifeOfProcessTest : public testing::Test {
   }
 
   int Cleared() const { return Occurrences(result_.diagnostics, "ResourceClear: ResourceClear"); }
+
+  /// Of the metrics file, which busy threads make a long one.
+  std::string StepLines() const {
+    std::ifstream file(directory_ / "metrics");
+    std::string lines;
+    for (std::string line; std::getline(file, line);) {
+      lines += line.find("\"spanId\":") != std::string::npos ? line + "\n" : "";
+    }
+    return lines;
+  }
 
   TemporaryDirectory directory_;
   ProbeResult result_;
@@ -105,6 +119,25 @@ TEST_F(LifeOfProcessTest, FirstEventMayComeInADestructor) {
   EXPECT_EQ(Cleared(), 1);
 }
 
+// Asked, in an exit handler and in a destructor: both were registered after the library was loaded,
+// and before or after the table of steps was made.
+TEST_F(LifeOfProcessTest, EverythingWorksInALibraryThatWasLoadedLater) {
+  Run({"load-library"});
+  ExpectEverything(3);
+}
+
+TEST_F(LifeOfProcessTest, EverythingWorksInALibraryThatWasLoadedAfterTheFirstEvent) {
+  Run({"everything", "load-library", "everything-at-exit"});
+  ExpectEverything(5);
+  EXPECT_EQ(Cleared(), 1);
+}
+
+TEST_F(LifeOfProcessTest, EverythingWorksWhileALibraryIsUnloaded) {
+  Run({"load-library", "unload-library", "everything"});
+  ExpectEverything(4);
+  EXPECT_EQ(Cleared(), 1);
+}
+
 TEST_F(LifeOfProcessTest, EverythingWorksInTheChildrenOfAProcessWithThreads) {
   if (!kAllocatorSurvivesFork) {
     GTEST_SKIP() << "the sanitizer's allocator may hang in a child";
@@ -128,6 +161,60 @@ TEST_F(LifeOfProcessTest, ForkedChildrenMakeIdentifiersOfTheirOwn) {
   EXPECT_THAT(identifiers, SizeIs(kChildren));
   const std::set<std::string> distinct(identifiers.begin(), identifiers.end());
   EXPECT_GE(distinct.size(), std::size_t{kChildren - 2});
+}
+
+// Each traces while the other does, with the same table of steps at the beginning.
+TEST_F(LifeOfProcessTest, ChildAndParentTraceStepsOfTheirOwn) {
+  if (!kAllocatorSurvivesFork) {
+    GTEST_SKIP() << "the sanitizer's allocator may hang in a child";
+  }
+  constexpr int kChildren = 20;
+  Run({"forks", std::to_string(kChildren)});
+  EXPECT_THAT(result_.Values("failed"), IsEmpty());
+  std::map<std::string, int> steps;
+  std::set<std::string> distinct;
+  for (const auto& record : ParseJsonLines(StepLines())) {
+    ++steps[TextOf(record, "transactionId")];
+    distinct.insert(TextOf(record, "spanId"));
+  }
+  EXPECT_EQ(steps, (std::map<std::string, int>{{"child", kChildren}, {"parent", kChildren}}));
+  EXPECT_GE(distinct.size(), std::size_t{2 * kChildren - 2});
+}
+
+/// The lines in which a probe says its descriptors.
+std::vector<std::string> DescriptorLines(const ProbeResult& result) {
+  std::vector<std::string> lines = LinesOf(result.diagnostics);
+  lines.erase(
+      std::remove_if(lines.begin(), lines.end(),
+                     [](const std::string& line) { return line.rfind("descriptors", 0) != 0; }),
+      lines.end());
+  return lines;
+}
+
+// While the threads have the metrics file open, the span file and, for moments, standard output.
+TEST_F(LifeOfProcessTest, ProgramsThatItStartsInheritNoDescriptor) {
+  constexpr int kPrograms = 50;
+  const std::vector<std::string> execs{"execs", std::to_string(kPrograms)};
+  std::vector<std::string> commands{"descriptors", "metrics", directory_ / "metrics"};
+  commands.insert(commands.end(), execs.begin(), execs.end());
+  const ProbeResult toFile = RunProbe(directory_, commands);
+  EXPECT_TRUE(Succeeded(toFile));
+  EXPECT_THAT(toFile.Values("failed"), IsEmpty());
+  const std::vector<std::string> descriptors = DescriptorLines(toFile);
+  EXPECT_THAT(descriptors, SizeIs(1 + kPrograms));
+  EXPECT_THAT(descriptors, Each(descriptors.at(0)));
+}
+
+TEST_F(LifeOfProcessTest, ProgramsThatItStartsInheritNoDescriptorOfAStream) {
+  constexpr int kPrograms = 50;
+  const int device = open("/dev/null", O_WRONLY | O_CLOEXEC);
+  const ProbeResult toStream =
+      ProbeProcess(directory_, {"descriptors", "execs", std::to_string(kPrograms)}, device).Wait();
+  close(device);
+  EXPECT_TRUE(Succeeded(toStream));
+  const std::vector<std::string> descriptors = DescriptorLines(toStream);
+  EXPECT_THAT(descriptors, SizeIs(1 + kPrograms));
+  EXPECT_THAT(descriptors, Each(descriptors.at(0)));
 }
 
 }  // namespace

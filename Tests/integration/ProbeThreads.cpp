@@ -1,5 +1,6 @@
 #include "ProbeThreads.h"
 
+#include <spawn.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -81,6 +82,44 @@ class Worker {
   std::vector<std::string> wrong_;
 };
 
+/// Threads that call what may be called beside a step, while the object lives.
+class BusyThreads {
+ public:
+  BusyThreads() {
+    for (int i = 0; i < 3; ++i) {
+      running_.emplace_back([this] {
+        while (!stop_) {
+          RenderEverything();
+          ReportEverything();
+          VMetrics::GetCurrentParentSpanId();
+        }
+      });
+    }
+  }
+  ~BusyThreads() {
+    stop_ = true;
+    for (std::thread& thread : running_) {
+      thread.join();
+    }
+  }
+  BusyThreads(const BusyThreads&) = delete;
+  BusyThreads& operator=(const BusyThreads&) = delete;
+
+ private:
+  std::atomic<bool> stop_{false};
+  std::vector<std::thread> running_;
+};
+
+constexpr int kPatienceMilliseconds = 20'000;
+
+/// Whether a probe that says its descriptors came to its end.
+bool DescriptorsSaid() {
+  char* const arguments[] = {const_cast<char*>("probe"), const_cast<char*>("descriptors"), nullptr};
+  pid_t child = 0;
+  return posix_spawn(&child, "/proc/self/exe", nullptr, nullptr, arguments, environ) == 0 &&
+         WaitFor(child, kPatienceMilliseconds) == 0;
+}
+
 }  // namespace
 
 void CallFromThreads(int threads, int rounds) {
@@ -121,17 +160,7 @@ void CallFromThreads(int threads, int rounds) {
 
 void ForkAmongThreads(int children) {
   VMetrics::GenerateUuid();  // What this leaves behind, the children would inherit.
-  std::atomic<bool> stop{false};
-  std::vector<std::thread> running;
-  for (int i = 0; i < 3; ++i) {
-    running.emplace_back([&stop] {
-      while (!stop) {
-        RenderEverything();
-        ReportEverything();
-        VMetrics::GetCurrentParentSpanId();
-      }
-    });
-  }
+  const BusyThreads busyThreads;
   int ended = 0;
   for (int i = 0; i < children; ++i) {
     const pid_t child = fork();
@@ -139,11 +168,19 @@ void ForkAmongThreads(int children) {
       CallEverything("child");
       _exit(0);
     }
-    ended += WaitFor(child, 20'000) == 0 ? 1 : 0;
-  }
-  stop = true;
-  for (std::thread& thread : running) {
-    thread.join();
+    if (!TraceStep("parent", "s")) {
+      Say("failed", "parent's step");
+    }
+    ended += WaitFor(child, kPatienceMilliseconds) == 0 ? 1 : 0;
   }
   Say("children", std::to_string(ended));
+}
+
+void ExecAmongThreads(int programs) {
+  const BusyThreads busyThreads;
+  for (int i = 0; i < programs; ++i) {
+    if (!TraceStep("parent", "s") || !DescriptorsSaid()) {
+      Say("failed", "program");
+    }
+  }
 }

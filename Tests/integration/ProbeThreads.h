@@ -7,7 +7,12 @@
 void CallFromThreads(int threads, int rounds);
 
 /// Forks `children` one after another while threads report, render and read the span file. Each
-/// child calls everything; "children" says how many came to their end.
+/// child calls everything, while its parent traces a step of the transaction "parent"; "children"
+/// says how many came to their end.
 void ForkAmongThreads(int children);
+
+/// Starts `programs` one after another while threads report, render and read the span
+/// file, each after a step. Each is a probe that says its descriptors and nothing else.
+void ExecAmongThreads(int programs);
 
 #endif  // PROBETHREADS_H_

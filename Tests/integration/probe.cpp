@@ -1,6 +1,7 @@
 // A process that uses the library as its arguments tell it: a list of commands, each followed by
 // the arguments of its own.
 
+#include <dlfcn.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -13,6 +14,7 @@
 #include <string>
 
 #include "CommaLocale.h"
+#include "DescriptorTable.h"
 #include "FileSizeLimit.h"
 #include "NumberedLines.h"
 #include "ProbeCalls.h"
@@ -92,6 +94,23 @@ void SayElapsed() {
   Say("elapsed", std::to_string(std::chrono::duration_cast<milliseconds>(elapsed).count()));
 }
 
+void* lateLibrary = nullptr;
+
+void LoadLateLibrary() {
+  lateLibrary = dlopen(VMETRICS_LATE_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+  Expect(lateLibrary != nullptr, VMETRICS_LATE_LIBRARY);
+  reinterpret_cast<void (*)()>(dlsym(lateLibrary, "CallFromLateLibrary"))();
+}
+
+/// On standard error, as standard output may be a device.
+void SayDescriptors() {
+  std::string numbers;
+  for (const int number : DescriptorTable::All()) {
+    numbers += " " + std::to_string(number);
+  }
+  std::fprintf(stderr, "descriptors%s\n", numbers.c_str());
+}
+
 struct Command {
   int arguments;
   std::function<void(char**)> run;
@@ -111,6 +130,10 @@ const std::map<std::string, Command>& Commands() {
       {"everything", {0, [](char**) { CallEverything("everything"); }}},
       {"everything-at-exit", {0, [](char**) { std::atexit([] { CallEverything("at exit"); }); }}},
       {"everything-in-destructor", {0, [](char**) { static const LastCaller lastCaller; }}},
+      {"load-library", {0, [](char**) { LoadLateLibrary(); }}},
+      {"unload-library", {0, [](char**) { Expect(dlclose(lateLibrary) == 0, "dlclose"); }}},
+      {"descriptors", {0, [](char**) { SayDescriptors(); }}},
+      {"execs", {1, [](char** a) { ExecAmongThreads(atoi(a[0])); }}},
       {"comma-locale", {0, [](char**) { static const CommaLocale commaLocale; }}},
       {"numbers", {0, [](char**) { SayNumbers(); }}},
       {"limit-file-size", {1, [](char** a) { LimitFileSize(strtoul(a[0], nullptr, 10)); }}},

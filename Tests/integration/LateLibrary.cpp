@@ -18,6 +18,4 @@ const Caller caller;
 
 }  // namespace
 
-extern "C" __attribute__((visibility("default"))) void CallFromLateLibrary() {
-  CallEverything("late");
-}
+extern "C" void CallFromLateLibrary() { CallEverything("late"); }

@@ -102,6 +102,11 @@ void LoadLateLibrary() {
   reinterpret_cast<void (*)()>(dlsym(lateLibrary, "CallFromLateLibrary"))();
 }
 
+void UnloadLateLibrary() {
+  Expect(dlclose(lateLibrary) == 0, "dlclose");
+  Expect(dlopen(VMETRICS_LATE_LIBRARY, RTLD_NOW | RTLD_NOLOAD) == nullptr, "still loaded");
+}
+
 /// On standard error, as standard output may be a device.
 void SayDescriptors() {
   std::string numbers;
@@ -131,7 +136,7 @@ const std::map<std::string, Command>& Commands() {
       {"everything-at-exit", {0, [](char**) { std::atexit([] { CallEverything("at exit"); }); }}},
       {"everything-in-destructor", {0, [](char**) { static const LastCaller lastCaller; }}},
       {"load-library", {0, [](char**) { LoadLateLibrary(); }}},
-      {"unload-library", {0, [](char**) { Expect(dlclose(lateLibrary) == 0, "dlclose"); }}},
+      {"unload-library", {0, [](char**) { UnloadLateLibrary(); }}},
       {"descriptors", {0, [](char**) { SayDescriptors(); }}},
       {"execs", {1, [](char** a) { ExecAmongThreads(atoi(a[0])); }}},
       {"comma-locale", {0, [](char**) { static const CommaLocale commaLocale; }}},

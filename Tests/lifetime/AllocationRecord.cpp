@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <new>
+#include <numeric>
 
 namespace {
 
@@ -75,6 +76,12 @@ AllocationRecord::Moment AllocationRecord::GivenBackAt(Moment taken) {
     }
   }
   return count;
+}
+
+long AllocationRecord::Balance() {
+  return std::accumulate(uses, uses + count, 0L, [](long balance, const Use& use) {
+    return balance + (use.size == kGivenBack ? -1 : 1);
+  });
 }
 
 // All forms, so that none goes past the record and a sanitizer finds them to fit each other.

@@ -21,6 +21,9 @@ Moment TakenAt(const void* address);
 /// When the block that was taken at `taken` was given back; Now() if it never was.
 Moment GivenBackAt(Moment taken);
 
+/// How many more blocks were taken than given back since the beginning.
+long Balance();
+
 }  // namespace AllocationRecord
 
 #endif  // ALLOCATIONRECORD_H_

@@ -39,7 +39,7 @@ class NoOutput {
 /// What a process holds on to.
 struct Holdings {
   std::size_t heapBytes;
-  int mappings;  ///< Pieces of its address space.
+  int mappings;  ///< Of files, libraries above all.
   long descriptors;
 };
 
@@ -47,7 +47,7 @@ Holdings Now() {
   std::ifstream maps("/proc/self/maps");
   int mappings = 0;
   for (std::string line; std::getline(maps, line);) {
-    ++mappings;
+    mappings += line.find('/') != std::string::npos ? 1 : 0;
   }
   maps.close();
   return {mallinfo2().uordblks, mappings, DescriptorTable::Count()};

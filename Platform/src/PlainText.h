@@ -20,12 +20,13 @@ constexpr std::uint64_t Eight(std::uint64_t byte) { return byte * 0x010101010101
 /// Eight characters from memory, and how many of the first of them are plain. The first one stands
 /// in the lowest byte.
 inline std::size_t CountPlain(std::uint64_t characters) {
-  // The highest bit of a byte is set by a borrow where the byte is less than what is taken from it.
-  // The lowest such byte is always a right one; a byte above it can be marked by its borrow.
-  const std::uint64_t below = (characters - Eight(0x20)) | ((characters ^ Eight('"')) - Eight(1)) |
-                              ((characters ^ Eight('\\')) - Eight(1)) |
-                              ((characters ^ Eight(0x7F)) - Eight(1));
-  const std::uint64_t special = (below | characters) & Eight(0x80);
+  // The highest bit of a byte is set by a borrow where the byte is less than what is taken from it,
+  // and by a carry where it is 0x7F. The lowest byte so marked is always a right one; those above
+  // it can be marked by its borrow.
+  const std::uint64_t marked = (characters - Eight(0x20)) | (characters + Eight(1)) |
+                               ((characters ^ Eight('"')) - Eight(1)) |
+                               ((characters ^ Eight('\\')) - Eight(1)) | characters;
+  const std::uint64_t special = marked & Eight(0x80);
   return special == 0 ? 8 : static_cast<std::size_t>(__builtin_ctzll(special)) / 8;
 }
 

@@ -1,0 +1,178 @@
+#include "IndependentJson.h"
+
+#include <rapidjson/document.h>
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+#include <cmath>
+#include <nlohmann/json.hpp>
+
+#include "TextModel.h"
+
+namespace IndependentJson {
+namespace {
+
+using Nlohmann = nlohmann::ordered_json;
+using Oracle::Member;
+using Oracle::Object;
+using Oracle::Value;
+
+constexpr unsigned kStrict = rapidjson::kParseValidateEncodingFlag | rapidjson::kParseIterativeFlag;
+
+/// Keeps the keys of the outermost object.
+struct KeyHandler : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, KeyHandler> {
+  bool StartObject() {
+    ++depth;
+    return true;
+  }
+  bool EndObject(rapidjson::SizeType) {
+    --depth;
+    return true;
+  }
+  bool StartArray() {
+    ++depth;
+    return depth > 1;
+  }
+  bool EndArray(rapidjson::SizeType) {
+    --depth;
+    return true;
+  }
+  bool Key(const char* key, rapidjson::SizeType length, bool) {
+    if (depth == 1) {
+      keys.append(keys.empty() ? "" : ",").append(key, length);
+    }
+    return true;
+  }
+  bool Default() { return depth > 0; }
+
+  int depth = 0;
+  std::string keys;
+};
+
+template <typename Handler>
+bool RapidReads(std::string_view text, Handler& handler) {
+  rapidjson::MemoryStream stream(text.data(), text.size());
+  rapidjson::Reader reader;
+  return !reader.Parse<kStrict | rapidjson::kParseNumbersAsStringsFlag>(stream, handler).IsError();
+}
+
+std::string Written(const rapidjson::Value& value) {
+  rapidjson::StringBuffer buffer;
+  rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
+  value.Accept(writer);
+  return buffer.GetString();
+}
+
+bool Parse(rapidjson::Document& document, std::string_view text) {
+  document.Parse<kStrict | rapidjson::kParseFullPrecisionFlag>(text.data(), text.size());
+  return !document.HasParseError();
+}
+
+std::string RapidObjectDifference(const rapidjson::Value& actual, const Object& expected);
+
+/// Whether a number is the one that was read. As an integer, zero has lost its sign.
+bool Same(double read, bool readAsInteger, double expected) {
+  return read == expected && (readAsInteger || std::signbit(read) == std::signbit(expected));
+}
+
+bool RapidEquals(const rapidjson::Value& actual, const Value& expected) {
+  switch (expected.kind) {
+    case Value::Kind::kText:
+      return actual.IsString() && std::string(actual.GetString(), actual.GetStringLength()) ==
+                                      Oracle::Repaired(expected.text);
+    case Value::Kind::kInteger:
+      return (actual.IsInt64() || actual.IsUint64()) && Written(actual) == expected.text;
+    case Value::Kind::kReal:
+      return std::isfinite(expected.real)
+                 ? actual.IsNumber() && Same(actual.GetDouble(), !actual.IsDouble(), expected.real)
+                 : actual.IsNull();
+    case Value::Kind::kBool:
+      return actual.IsBool() && actual.GetBool() == expected.truth;
+    case Value::Kind::kObject:
+      return RapidObjectDifference(actual, expected.members).empty();
+    case Value::Kind::kJson:
+      break;
+  }
+  rapidjson::Document json;
+  return Parse(json, expected.text) && Written(actual) == Written(json);
+}
+
+std::string RapidObjectDifference(const rapidjson::Value& actual, const Object& expected) {
+  if (!actual.IsObject() || actual.MemberCount() != expected.size()) {
+    return "the number of members";
+  }
+  auto member = actual.MemberBegin();
+  for (const auto& [key, value] : expected) {
+    const std::string found(member->name.GetString(), member->name.GetStringLength());
+    if (found != Oracle::Repaired(key) || !RapidEquals(member->value, value)) {
+      return key;
+    }
+    ++member;
+  }
+  return "";
+}
+
+std::string NlohmannObjectDifference(const Nlohmann& actual, const Object& expected);
+
+bool NlohmannEquals(const Nlohmann& actual, const Value& expected) {
+  switch (expected.kind) {
+    case Value::Kind::kText:
+      return actual.is_string() && actual.get<std::string>() == Oracle::Repaired(expected.text);
+    case Value::Kind::kInteger:
+      return actual.is_number_integer() && actual.dump() == expected.text;
+    case Value::Kind::kReal:
+      return std::isfinite(expected.real)
+                 ? actual.is_number() &&
+                       Same(actual.get<double>(), actual.is_number_integer(), expected.real)
+                 : actual.is_null();
+    case Value::Kind::kBool:
+      return actual.is_boolean() && actual.get<bool>() == expected.truth;
+    case Value::Kind::kObject:
+      return NlohmannObjectDifference(actual, expected.members).empty();
+    case Value::Kind::kJson:
+      break;
+  }
+  return actual == Nlohmann::parse(expected.text);
+}
+
+std::string NlohmannObjectDifference(const Nlohmann& actual, const Object& expected) {
+  if (!actual.is_object() || actual.size() != expected.size()) {
+    return "the number of members";
+  }
+  auto member = actual.begin();
+  for (const auto& [key, value] : expected) {
+    if (member.key() != Oracle::Repaired(key) || !NlohmannEquals(member.value(), value)) {
+      return key;
+    }
+    ++member;
+  }
+  return "";
+}
+
+}  // namespace
+
+std::optional<std::string> Keys(std::string_view text) {
+  KeyHandler handler;
+  return RapidReads(text, handler) ? std::optional(handler.keys) : std::nullopt;
+}
+
+bool RapidAccepts(std::string_view text) {
+  rapidjson::BaseReaderHandler<> handler;
+  return RapidReads(text, handler);
+}
+
+bool NlohmannAccepts(std::string_view text) { return Nlohmann::accept(text); }
+
+std::string RapidDifference(std::string_view line, const Object& expected) {
+  rapidjson::Document document;
+  return Parse(document, line) ? RapidObjectDifference(document, expected) : "no valid JSON";
+}
+
+std::string NlohmannDifference(std::string_view line, const Object& expected) {
+  const Nlohmann document = Nlohmann::parse(line, nullptr, false);
+  return document.is_discarded() ? "no valid JSON" : NlohmannObjectDifference(document, expected);
+}
+
+}  // namespace IndependentJson

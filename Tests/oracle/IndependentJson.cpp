@@ -51,6 +51,29 @@ struct KeyHandler : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, KeyHandler> 
   std::string keys;
 };
 
+/// Writes down all that a parser meets, numbers letter for letter.
+struct EventHandler : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, EventHandler> {
+  bool Add(char kind, std::string_view text) {
+    events.append(1, kind).append(std::to_string(text.size())).append(1, ' ').append(text);
+    return true;
+  }
+  bool Null() { return Add('n', ""); }
+  bool Bool(bool truth) { return Add('b', truth ? "1" : "0"); }
+  bool RawNumber(const char* digits, rapidjson::SizeType length, bool) {
+    return Add('N', {digits, length});
+  }
+  bool String(const char* text, rapidjson::SizeType length, bool) {
+    return Add('S', {text, length});
+  }
+  bool Key(const char* key, rapidjson::SizeType length, bool) { return Add('K', {key, length}); }
+  bool StartObject() { return Add('{', ""); }
+  bool EndObject(rapidjson::SizeType) { return Add('}', ""); }
+  bool StartArray() { return Add('[', ""); }
+  bool EndArray(rapidjson::SizeType) { return Add(']', ""); }
+
+  std::string events;
+};
+
 template <typename Handler>
 bool RapidReads(std::string_view text, Handler& handler) {
   rapidjson::MemoryStream stream(text.data(), text.size());
@@ -71,6 +94,23 @@ bool Parse(rapidjson::Document& document, std::string_view text) {
 }
 
 std::string RapidObjectDifference(const rapidjson::Value& actual, const Object& expected);
+
+/// Whether `line` ends with the foreign JSON that its last member holds. Numbers count by their
+/// letters: the parser's own conversion of "0E-186" depends on what was in memory before.
+bool EndsLike(std::string_view line, const Object& expected) {
+  if (expected.back().value.kind != Value::Kind::kJson) {
+    return true;
+  }
+  EventHandler whole;
+  EventHandler end;
+  if (!RapidReads(line, whole) || !RapidReads(expected.back().value.text, end)) {
+    return false;
+  }
+  end.EndObject(0);
+  const std::size_t size = end.events.size();
+  return whole.events.size() > size &&
+         whole.events.compare(whole.events.size() - size, size, end.events) == 0;
+}
 
 /// Whether a number is the one that was read. As an integer, zero has lost its sign.
 bool Same(double read, bool readAsInteger, double expected) {
@@ -95,8 +135,7 @@ bool RapidEquals(const rapidjson::Value& actual, const Value& expected) {
     case Value::Kind::kJson:
       break;
   }
-  rapidjson::Document json;
-  return Parse(json, expected.text) && Written(actual) == Written(json);
+  return true;  // See EndsLike.
 }
 
 std::string RapidObjectDifference(const rapidjson::Value& actual, const Object& expected) {
@@ -167,7 +206,10 @@ bool NlohmannAccepts(std::string_view text) { return Nlohmann::accept(text); }
 
 std::string RapidDifference(std::string_view line, const Object& expected) {
   rapidjson::Document document;
-  return Parse(document, line) ? RapidObjectDifference(document, expected) : "no valid JSON";
+  if (!Parse(document, line)) {
+    return "no valid JSON";
+  }
+  return EndsLike(line, expected) ? RapidObjectDifference(document, expected) : "foreign JSON";
 }
 
 std::string NlohmannDifference(std::string_view line, const Object& expected) {

@@ -197,6 +197,25 @@ std::optional<std::string> Keys(std::string_view text) {
   return RapidReads(text, handler) ? std::optional(handler.keys) : std::nullopt;
 }
 
+bool MayHaveLargeNumber(std::string_view text) {
+  constexpr int kManyDigits = 250;
+  constexpr int kManyExponentDigits = 2;
+  int digits = 0;
+  int most = kManyDigits;
+  for (const char character : text) {
+    if (character >= '0' && character <= '9') {
+      ++digits;
+    } else if (character != '+' && character != '-') {
+      digits = 0;
+      most = character == 'e' || character == 'E' ? kManyExponentDigits : kManyDigits;
+    }
+    if (digits > most) {
+      return true;
+    }
+  }
+  return false;
+}
+
 bool RapidAccepts(std::string_view text) {
   rapidjson::BaseReaderHandler<> handler;
   return RapidReads(text, handler);

@@ -63,6 +63,7 @@ void Report(VMessage* message, const std::string& header, const SlowModule& slow
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   Input input(data, size);
   FakePlatform::Reset();
+  PreparedMetrics();  // Into the catalogue, before anything is rendered.
   const std::uint8_t how = input.Byte();
   std::string message;
   for (int word = 0; word < 6; ++word) {

@@ -91,6 +91,7 @@ void ReportDriver(Input& input, std::uint64_t tick) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   Input input(data, size);
   FakePlatform::Reset();
+  PreparedMetrics();  // Into the catalogue, before anything is rendered.
   const std::uint8_t how = input.Byte();
   const std::uint64_t tick = input.Number(8);
   FakePlatform::ScriptTicks({tick});

@@ -54,6 +54,7 @@ void Submit(const TextRecord& text, std::uint64_t tick) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   Input input(data, size);
   FakePlatform::Reset();
+  PreparedMetrics();  // Into the catalogue, before anything is rendered.
   const std::uint8_t how = input.Byte();
   TextRecord text;
   text.terminalId = input.Word();

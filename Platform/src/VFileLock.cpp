@@ -27,10 +27,27 @@ constexpr long kLongestPauseNanoseconds = 1'000'000;
 char lockDirectory[PATH_MAX] = "";
 std::atomic<mode_t> lockFileMode{0600};
 
-std::string Located(const std::string& name) {
-  const bool relative = name.empty() || name[0] != '/';
-  return relative && lockDirectory[0] != '\0' ? std::string(lockDirectory) + "/" + name : name;
-}
+/// Where a lock file lies: its path, or the empty one when that would be longer than any can be.
+class Location {
+ public:
+  explicit Location(const std::string& name) {
+    const bool relative = name.empty() || name[0] != '/';
+    const std::size_t size = relative ? std::strlen(lockDirectory) : 0;
+    const std::size_t slash = size > 0 ? 1 : 0;
+    if (size + slash + name.size() >= sizeof path_) {
+      path_[0] = '\0';
+      return;
+    }
+    std::memcpy(path_, lockDirectory, size);
+    std::memcpy(path_ + size, "/", slash);
+    std::memcpy(path_ + size + slash, name.c_str(), name.size() + 1);
+  }
+
+  const char* Path() const { return path_; }
+
+ private:
+  char path_[PATH_MAX];
+};
 
 int OpenExisting(const char* name) {
   // Not blocking: a FIFO by that name would hold us until somebody opened its other end.
@@ -109,7 +126,7 @@ int TransferAll(int length, Transfer transfer) {
 
 }  // namespace
 
-VFileLock::VFileLock(const std::string& name) : name_(Located(name)) {}
+VFileLock::VFileLock(const std::string& name) : name_(name) {}
 
 VFileLock::~VFileLock() = default;
 
@@ -173,7 +190,7 @@ bool VFileLockGuard::Lock(int operation) {
     return false;
   }
   const ErrnoKeeper keeper;
-  const int descriptor = OpenOrCreate(file_.name_.c_str());
+  const int descriptor = OpenOrCreate(Location(file_.name_).Path());
   if (descriptor < 0) {
     return false;
   }

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <climits>
 #include <csignal>
+#include <cstring>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -159,6 +160,29 @@ TEST_F(VFileLockTest, RefusesADirectoryNameLongerThanAPath) {
               EXPECT_TRUE(CanLockExclusive("file"));  // Still in the directory named before.
             }),
             kExited);
+  EXPECT_TRUE(std::filesystem::exists(path_));
+}
+
+/// `text`, led by as many slashes as make it `size` bytes long.
+std::string Lengthened(const std::string& text, std::size_t size) {
+  return std::string(size - text.size(), '/') + text;
+}
+
+TEST_F(VFileLockTest, APathMayBeAsLongAsTheSystemTakesIt) {
+  EXPECT_TRUE(CanLockExclusive(Lengthened(path_, PATH_MAX - 1)));
+  EXPECT_FALSE(CanLockExclusive(Lengthened(path_, PATH_MAX)));
+  EXPECT_FALSE(CanLockExclusive(Lengthened(path_, 2 * PATH_MAX)));
+}
+
+TEST_F(VFileLockTest, ADirectoryAndANameMayBeAsLongAsTheSystemTakesThem) {
+  EXPECT_EQ(
+      ChildProcess::Run([&] {
+        const std::size_t longest = PATH_MAX - 1 - std::strlen("/file");
+        EXPECT_TRUE(VPlatformConfig::SetLockFileDirectory(Lengthened(directory_.Path(), longest)));
+        EXPECT_TRUE(CanLockExclusive("file"));
+        EXPECT_FALSE(CanLockExclusive("file2"));
+      }),
+      kExited);
   EXPECT_TRUE(std::filesystem::exists(path_));
 }
 

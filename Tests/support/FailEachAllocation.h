@@ -14,9 +14,10 @@
 /// than it gets. Before each run `prepare` is called, after it `check` with the call's result, or
 /// with none if it threw std::bad_alloc. Any other exception gets through and fails the test.
 ///
-/// At least one allocation must have failed: a call that asks for no memory tests nothing.
+/// At least one allocation must have failed: a call that asks for no memory tests nothing. Returns
+/// how many have.
 template <typename Prepare, typename Call, typename Check>
-void FailEachAllocation(AllocationFailure::Extent extent, Prepare prepare, Call call, Check check) {
+int FailEachAllocation(AllocationFailure::Extent extent, Prepare prepare, Call call, Check check) {
   int hits = 1;
   int failed = 0;
   for (int first = 1; hits > 0; ++first) {
@@ -36,6 +37,7 @@ void FailEachAllocation(AllocationFailure::Extent extent, Prepare prepare, Call 
     check(result);
   }
   EXPECT_GT(failed, 0);
+  return failed;
 }
 
 #endif  // FAILEACHALLOCATION_H_

@@ -10,22 +10,12 @@
 #include <unistd.h>
 
 #include <ostream>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "BoundedWait.h"
+#include "LinesOf.h"
 #include "TemporaryDirectory.h"
-
-/// The lines of `text`, without their line breaks.
-inline std::vector<std::string> LinesOf(const std::string& text) {
-  std::istringstream stream(text);
-  std::vector<std::string> lines;
-  for (std::string line; std::getline(stream, line);) {
-    lines.push_back(line);
-  }
-  return lines;
-}
 
 /// What became of a probe.
 struct ProbeResult {

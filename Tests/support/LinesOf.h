@@ -1,0 +1,19 @@
+/// Texts line by line.
+#ifndef LINESOF_H_
+#define LINESOF_H_
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+/// The lines of `text`, without their line breaks.
+inline std::vector<std::string> LinesOf(const std::string& text) {
+  std::istringstream stream(text);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(stream, line);) {
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+#endif  // LINESOF_H_

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <pthread.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <functional>
 #include <initializer_list>
 #include <string>
@@ -172,11 +174,13 @@ TEST(JsonCompactionTest, CountsLevelsRatherThanBrackets) {
   ExpectAccepted({"[" + NestedArrays(127) + Repeated(200, "," + NestedArrays(127)) + "]"});
 }
 
-/// Runs `body` in a thread with a stack as small as any host's.
+/// Runs `body` in a thread with a stack as small as any host's: 64 KiB where a thread may have that
+/// little.
 void OnSmallStack(const std::function<void()>& body) {
   pthread_attr_t attributes;
   ASSERT_EQ(pthread_attr_init(&attributes), 0);
-  ASSERT_EQ(pthread_attr_setstacksize(&attributes, std::size_t{64} * 1024), 0);
+  const long size = std::max(64L * 1024, sysconf(_SC_THREAD_STACK_MIN));
+  ASSERT_EQ(pthread_attr_setstacksize(&attributes, static_cast<std::size_t>(size)), 0);
   pthread_t thread;
   const auto run = [](void* argument) -> void* {
     (*static_cast<const std::function<void()>*>(argument))();

@@ -18,6 +18,9 @@ class AllocationFailure {
 
   /// How many allocations this thread has made in its life.
   static long Allocations();
+
+  /// How many of its allocations this thread holds: those that it has not given back.
+  static long Held();
 };
 
 #endif  // ALLOCATIONFAILURE_H_

@@ -187,6 +187,15 @@ TEST_F(DotRecordManagerTest, FailedAllocationCountsTowardsTheHundred) {
   EXPECT_THAT(manager.transactions, ElementsAre(Pair("b", NotNull())));
 }
 
+TEST_F(DotRecordManagerTest, ClearingGivesAllMemoryBack) {
+  const long before = AllocationFailure::Held();
+  Fill(3);
+  EXPECT_GT(AllocationFailure::Held(), before);
+  manager.ResourceClear();
+  FakePlatform::Reset();  // It holds the line that was logged.
+  EXPECT_EQ(AllocationFailure::Held(), before);
+}
+
 // The clearing comes before the allocation, so it has happened whatever becomes of that.
 TEST_F(DotRecordManagerTest, FailedAllocationOfTheHundredAndFirstHasClearedTheTable) {
   Fill(100);

@@ -38,6 +38,9 @@ class Change:
         self.line = source.count('\n', 0, mutant.begin) + 1
         begin = source.rfind('\n', 0, mutant.begin) + 1
         end = source.find('\n', mutant.end)
+        # A line that stands there more than once is told with those in front of it.
+        while begin > 0 and source.count(source[begin:end]) > 1:
+            begin = source.rfind('\n', 0, begin - 1) + 1
         self.before = ' '.join(source[begin:end].split())
         self.after = ' '.join((source[begin:mutant.begin] + mutant.text +
                                source[mutant.end:end]).split())

@@ -210,6 +210,11 @@ TEST_F(ValueRenderingTest, WarnsOfANullPointer) {
   EXPECT_THAT(FakePlatform::LogLines(), ElementsAre(warning, warning, warning, warning));
 }
 
+TEST_F(ValueRenderingTest, RendersNoNullPointerOfAMetricWhoseTextIsReturnedAsItStands) {
+  EXPECT_EQ(VMetrics::GetMetricsMap().at(0x120A0009)[0], "json");
+  EXPECT_EQ(VMetrics::ToString(0x120A0009, nullptr), "");
+}
+
 TEST_F(ValueRenderingTest, WarnsOfANullPointerBeforeItLooksTheIdUp) {
   EXPECT_EQ(VMetrics::ToString(770002, nullptr), "");
   EXPECT_EQ(VMetrics::ToString("absent", nullptr), "");

@@ -14,8 +14,8 @@ namespace IndependentJson {
 /// no valid JSON. RapidJSON.
 std::optional<std::string> Keys(std::string_view text);
 
-/// Whether there may be a number in the text that a double cannot hold: JSON has no limit there, but
-/// both parsers do.
+/// Whether there may be a number in the text that a double cannot hold: JSON has no limit there,
+/// but both parsers do.
 bool MayHaveLargeNumber(std::string_view text);
 
 /// Whether each of the two accepts the text.

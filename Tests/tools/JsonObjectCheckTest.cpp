@@ -3,6 +3,7 @@
 #include <string>
 
 #include "JsonObjectCheck.h"
+#include "JsonValidity.h"
 
 namespace vmetrics {
 namespace {
@@ -92,8 +93,8 @@ std::string Nested(int levels) {
 }
 
 TEST_F(JsonObjectCheckTest, NestingIsLimited) {
-  EXPECT_TRUE(IsObjectWith(Nested(JsonObjectCheck::kDeepest)));
-  EXPECT_FALSE(IsObjectWith(Nested(JsonObjectCheck::kDeepest + 1)));
+  EXPECT_TRUE(IsObjectWith(Nested(kDeepestNesting)));
+  EXPECT_FALSE(IsObjectWith(Nested(kDeepestNesting + 1)));
   EXPECT_FALSE(IsObjectWith(Nested(1'000'000)));
 }
 

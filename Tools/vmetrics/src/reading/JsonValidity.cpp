@@ -1,19 +1,15 @@
-#include "JsonObjectCheck.h"
-
-#include <simdjson.h>
+#include "JsonValidity.h"
 
 #include <cstddef>
-#include <string>
 
 namespace vmetrics {
 
-namespace {
-
 using simdjson::ondemand::array;
-using simdjson::ondemand::document;
 using simdjson::ondemand::json_type;
 using simdjson::ondemand::object;
 using simdjson::ondemand::value;
+
+namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -32,7 +28,8 @@ bool Take(std::string_view& text, std::string_view anyOf) {
   return found;
 }
 
-/// By its letters, as the parser would refuse a number that fits into no type of C++.
+}  // namespace
+
 bool IsNumber(std::string_view token) {
   token = token.substr(0, token.find_last_not_of(" \t\r\n") + 1);
   Take(token, "-");
@@ -51,10 +48,12 @@ bool IsNumber(std::string_view token) {
   return token.empty();
 }
 
-bool IsValid(object object, int depth);
-bool IsValid(array array, int depth);
+namespace {
 
-/// The parser checks only what it is asked for, so each value is asked for.
+bool IsValidArray(array array, int depth);
+
+}  // namespace
+
 bool IsValid(value value, int depth) {
   json_type type;
   if (value.type().get(type) != simdjson::SUCCESS) {
@@ -63,11 +62,12 @@ bool IsValid(value value, int depth) {
   switch (type) {
     case json_type::object: {
       object nested;
-      return value.get_object().get(nested) == simdjson::SUCCESS && IsValid(nested, depth + 1);
+      return value.get_object().get(nested) == simdjson::SUCCESS &&
+             IsValidObject(nested, depth + 1);
     }
     case json_type::array: {
       array nested;
-      return value.get_array().get(nested) == simdjson::SUCCESS && IsValid(nested, depth + 1);
+      return value.get_array().get(nested) == simdjson::SUCCESS && IsValidArray(nested, depth + 1);
     }
     case json_type::string:
       return value.get_string().error() == simdjson::SUCCESS;
@@ -83,8 +83,8 @@ bool IsValid(value value, int depth) {
   return false;
 }
 
-bool IsValid(object object, int depth) {
-  if (depth > JsonObjectCheck::kDeepest) {
+bool IsValidObject(object object, int depth) {
+  if (depth > kDeepestNesting) {
     return false;
   }
   for (auto member : object) {
@@ -97,8 +97,10 @@ bool IsValid(object object, int depth) {
   return true;
 }
 
-bool IsValid(array array, int depth) {
-  if (depth > JsonObjectCheck::kDeepest) {
+namespace {
+
+bool IsValidArray(array array, int depth) {
+  if (depth > kDeepestNesting) {
     return false;
   }
   for (auto element : array) {
@@ -111,25 +113,5 @@ bool IsValid(array array, int depth) {
 }
 
 }  // namespace
-
-struct JsonObjectCheck::Parser {
-  simdjson::ondemand::parser parser;
-  std::string text;  ///< With room behind it, into which the parser may read.
-};
-
-JsonObjectCheck::JsonObjectCheck() : parser_(std::make_unique<Parser>()) {}
-
-JsonObjectCheck::~JsonObjectCheck() = default;
-
-bool JsonObjectCheck::IsObject(std::string_view text) {
-  std::string& padded = parser_->text;
-  padded.assign(text).append(simdjson::SIMDJSON_PADDING, ' ');
-  document document;
-  object object;
-  return parser_->parser.iterate(padded.data(), text.size(), padded.size()).get(document) ==
-             simdjson::SUCCESS &&
-         document.get_object().get(object) == simdjson::SUCCESS && IsValid(object, 1) &&
-         document.current_location().error() == simdjson::OUT_OF_BOUNDS;
-}
 
 }  // namespace vmetrics

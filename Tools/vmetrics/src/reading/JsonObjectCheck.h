@@ -10,9 +10,6 @@ namespace vmetrics {
 /// Keeps the memory that a check takes for the next one: up to about ten times the longest text.
 class JsonObjectCheck {
  public:
-  /// Values nested deeper than this are refused; a metrics line has at most 130 levels.
-  static constexpr int kDeepest = 500;
-
   JsonObjectCheck();
   ~JsonObjectCheck();
   JsonObjectCheck(const JsonObjectCheck&) = delete;

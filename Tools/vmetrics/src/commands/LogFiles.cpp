@@ -1,0 +1,54 @@
+#include "LogFiles.h"
+
+#include <fmt/format.h>
+
+#include "Progress.h"
+#include "Terminal.h"
+#include "Text.h"
+
+namespace vmetrics {
+
+namespace {
+
+std::string Counted(std::uint64_t count, std::string_view thing) {
+  return fmt::format("{} {}{}", count, thing, count == 1 ? "" : "s");
+}
+
+}  // namespace
+
+void LogFiles::AddTo(CLI::App& command) {
+  command
+      .add_option("file", names_,
+                  "Metrics logs, plain or compressed by gzip; - or none is standard input")
+      ->type_name("FILE");
+}
+
+void LogFiles::Read(LogReader::Hooks hooks) {
+  Progress progress;
+  hooks.progress = [&progress](const Input& input) { progress.Show(input); };
+  hooks.unreadable = [this, &progress](const InputError& error) {
+    progress.Clear();
+    Complain(Printable(error.what()));
+    isUnreadable_ = true;
+  };
+  LogReader reader(std::move(hooks));
+  reader.Read(names_);
+  counts_ = reader.Counts();
+  overlong_ = reader.Overlong();
+}
+
+int LogFiles::Conclude(int status) const {
+  FinishOutput();
+  if (counts_.recovered > 0 || counts_.fragments > 0) {
+    Complain(fmt::format("{} recovered from damaged lines, {} without any left out",
+                         Counted(counts_.recovered, "record"),
+                         Counted(counts_.fragments, "fragment")));
+  }
+  if (overlong_ > 0) {
+    Complain(fmt::format("{} of more than {} bytes left out", Counted(overlong_, "line"),
+                         LineCutter::kLongestLine));
+  }
+  return isUnreadable_ ? kTrouble : status;
+}
+
+}  // namespace vmetrics

@@ -1,0 +1,65 @@
+#include <fmt/core.h>
+
+#include <exception>
+#include <string>
+
+#include "Command.h"
+#include "Terminal.h"
+#include "Text.h"
+#include "VPlatformConfig.h"
+
+namespace {
+
+constexpr const char* kDescription =
+    "Shows, checks and makes what VMetrics writes: its catalogue, packed records, metrics logs.";
+
+int Run(int argumentCount, char** arguments) {
+  CLI::App program(kDescription, "vmetrics");
+  program.set_version_flag("--version", "vmetrics " VMETRICS_VERSION);
+  program.require_subcommand(1);
+  vmetrics::Action action;
+  vmetrics::AddCatalogue(program, action);
+  vmetrics::AddDecode(program, action);
+  vmetrics::AddEncode(program, action);
+  vmetrics::AddRun(program, action);
+  vmetrics::AddTrace(program, action);
+  vmetrics::AddStats(program, action);
+  vmetrics::AddCheck(program, action);
+  try {
+    program.parse(argumentCount, arguments);
+  } catch (const CLI::Success& help) {
+    return program.exit(help);
+  } catch (const CLI::RequiredError&) {
+    if (argumentCount > 1 && program.get_subcommands().empty()) {
+      throw vmetrics::UsageError(fmt::format("there is no subcommand {}", arguments[1]));
+    }
+    throw;
+  }
+  return action();
+}
+
+void ComplainOfUsage(const std::exception& error) {
+  vmetrics::Complain(fmt::format("{}; see vmetrics --help", vmetrics::Printable(error.what())));
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+  // Of what the library has to say here, the tool tells its user itself, in words about the input.
+  VPlatformConfig::SetDiagnosticsLevel(0);
+  // A command that is run as a step has its own exit statuses; 125 is the wrapper's trouble.
+  const bool isRun = argumentCount > 1 && std::string(arguments[1]) == "run";
+  const int trouble = isRun ? 125 : vmetrics::kTrouble;
+  try {
+    const int status = Run(argumentCount, arguments);
+    vmetrics::FinishOutput();
+    return status;
+  } catch (const CLI::ParseError& error) {
+    ComplainOfUsage(error);
+  } catch (const vmetrics::UsageError& error) {
+    ComplainOfUsage(error);
+  } catch (const std::exception& error) {
+    vmetrics::Complain(error.what());
+  }
+  return trouble;
+}

@@ -1,0 +1,72 @@
+#include "Terminal.h"
+
+#include <fmt/core.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <system_error>
+
+namespace vmetrics {
+
+namespace {
+
+constexpr std::size_t kUsualWidth = 80;
+
+bool IsSet(const char* variable) {
+  const char* value = std::getenv(variable);  // NOLINT(concurrency-mt-unsafe): nobody sets any.
+  return value != nullptr && *value != '\0';
+}
+
+bool HasColours() {
+  const char* terminal = std::getenv("TERM");  // NOLINT(concurrency-mt-unsafe): as above.
+  const bool isDumb = terminal == nullptr || std::string_view(terminal) == "dumb";
+  return isatty(STDOUT_FILENO) == 1 && !IsSet("NO_COLOR") && !isDumb;
+}
+
+const char* CodeOf(Style style) {
+  switch (style) {
+    case Style::Bold:
+      return "1";
+    case Style::Dim:
+      return "2";
+    case Style::Red:
+      return "31";
+    case Style::Green:
+      return "32";
+    case Style::Yellow:
+      return "33";
+    case Style::Plain:
+      break;
+  }
+  return "0";
+}
+
+}  // namespace
+
+std::size_t OutputWidth() {
+  winsize size;
+  const bool isTerminal = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+  return isTerminal ? size.ws_col : kUsualWidth;
+}
+
+std::string Styled(Style style, std::string_view text) {
+  static const bool hasColours = HasColours();
+  return hasColours && style != Style::Plain ? fmt::format("\033[{}m{}\033[0m", CodeOf(style), text)
+                                             : std::string(text);
+}
+
+void Write(std::string_view text) { std::fwrite(text.data(), 1, text.size(), stdout); }
+
+void FinishOutput() {
+  errno = 0;
+  if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+    throw std::system_error(errno != 0 ? errno : EIO, std::generic_category(), "standard output");
+  }
+}
+
+void Complain(std::string_view text) { fmt::print(stderr, "vmetrics: {}\n", text); }
+
+}  // namespace vmetrics

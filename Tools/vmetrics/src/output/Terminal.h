@@ -1,0 +1,39 @@
+/// What the tool writes to, and how.
+#ifndef VMETRICS_TOOL_TERMINAL_H_
+#define VMETRICS_TOOL_TERMINAL_H_
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace vmetrics {
+
+/// Exit statuses, as filters have them.
+enum ExitStatus : int {
+  kSuccess = 0,
+  kFindings = 1,  ///< What was asked about was found to be wrong.
+  kTrouble = 2    ///< Wrong usage, unreadable input or output that could not be written.
+};
+
+/// Columns of standard output where it is a terminal, otherwise 80.
+std::size_t OutputWidth();
+
+/// How a text stands out, where there are colours.
+enum class Style { Plain, Bold, Dim, Red, Green, Yellow };
+
+/// `text` in that style, if standard output is a terminal, NO_COLOR is unset or empty and TERM is
+/// not "dumb"; otherwise as it is.
+std::string Styled(Style style, std::string_view text);
+
+/// Writes to standard output, through its buffer.
+void Write(std::string_view text);
+
+/// Empties the buffer. Throws std::system_error where standard output could not take everything.
+void FinishOutput();
+
+/// Writes "vmetrics: ", the text and a line break to standard error.
+void Complain(std::string_view text);
+
+}  // namespace vmetrics
+
+#endif  // VMETRICS_TOOL_TERMINAL_H_

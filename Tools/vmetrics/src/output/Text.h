@@ -1,0 +1,27 @@
+/// Texts of unknown origin on a terminal.
+#ifndef VMETRICS_TOOL_TEXT_H_
+#define VMETRICS_TOOL_TEXT_H_
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace vmetrics {
+
+/// `text` with everything that a terminal would obey rather than show written as an escape, as in
+/// JSON: control characters (0x00 to 0x1F, 0x7F, U+0080 to U+009F) and those that change the
+/// direction of writing. An ill-formed UTF-8 sequence becomes U+FFFD.
+std::string Printable(std::string_view text);
+
+/// Columns that a printable text takes; characters of East Asia take two.
+std::size_t WidthOf(std::string_view text);
+
+/// `text` cut to `width` columns, its last one then "…", or filled up to them with blanks behind.
+std::string Fitted(std::string_view text, std::size_t width);
+
+/// `text` with blanks in front of it up to `width` columns.
+std::string AlignedRight(std::string_view text, std::size_t width);
+
+}  // namespace vmetrics
+
+#endif  // VMETRICS_TOOL_TEXT_H_

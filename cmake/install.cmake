@@ -1,0 +1,59 @@
+# What is installed, and how others find it: by find_package(VMetrics), by pkg-config, or by the plain
+# names of the libraries.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+# A directory of its own: the platform's headers have names that others may want, too.
+set(headers_directory ${CMAKE_INSTALL_INCLUDEDIR}/vmetrics)
+
+set_target_properties(VMetrics PROPERTIES EXPORT_NAME VMetrics)
+set_target_properties(VPlatform PROPERTIES EXPORT_NAME Platform)
+target_include_directories(VMetrics INTERFACE $<INSTALL_INTERFACE:${headers_directory}>)
+target_include_directories(VPlatformContract INTERFACE $<INSTALL_INTERFACE:${headers_directory}>)
+# Under another prefix than the system's the libraries are not where the loader looks by itself.
+if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+  set_target_properties(VMetrics PROPERTIES INSTALL_RPATH $ORIGIN)
+  set(tool_library_path $ORIGIN/../${CMAKE_INSTALL_LIBDIR})
+endif()
+install(TARGETS VMetrics VPlatform VPlatformContract EXPORT VMetricsTargets
+  LIBRARY COMPONENT libraries NAMELINK_COMPONENT development)
+install(FILES
+  Framework/VMetrics/include/VMetrics.h
+  Platform/include/BoundsChecked.h
+  Platform/include/VDateTime.h
+  Platform/include/VFileLock.h
+  Platform/include/VIpc.h
+  Platform/include/VJson.h
+  Platform/include/VLogger.h
+  Platform/src/VPlatformConfig.h
+  DESTINATION ${headers_directory} COMPONENT development)
+
+set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/VMetrics)
+install(EXPORT VMetricsTargets NAMESPACE VMetrics:: DESTINATION ${package_directory}
+  COMPONENT development)
+configure_package_config_file(cmake/VMetricsConfig.cmake.in VMetricsConfig.cmake
+  INSTALL_DESTINATION ${package_directory})
+write_basic_package_version_file(VMetricsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/VMetricsConfig.cmake
+  ${PROJECT_BINARY_DIR}/VMetricsConfigVersion.cmake
+  DESTINATION ${package_directory} COMPONENT development)
+
+# A directory may be given as an absolute one, which then has no part of the prefix.
+foreach(directory INCLUDE LIB)
+  cmake_path(IS_ABSOLUTE CMAKE_INSTALL_${directory}DIR is_absolute)
+  if(is_absolute)
+    set(pkgconfig_${directory}DIR ${CMAKE_INSTALL_${directory}DIR})
+  else()
+    set(pkgconfig_${directory}DIR "\${prefix}/${CMAKE_INSTALL_${directory}DIR}")
+  endif()
+endforeach()
+configure_file(cmake/vmetrics.pc.in vmetrics.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/vmetrics.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+
+if(VMETRICS_BUILD_TOOLS)
+  set_target_properties(vmetrics PROPERTIES INSTALL_RPATH "${tool_library_path}")
+  install(TARGETS vmetrics COMPONENT tool)
+  file(GLOB pages Tools/vmetrics/man/*.1)
+  install(FILES ${pages} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+endif()

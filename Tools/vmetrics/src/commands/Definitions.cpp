@@ -1,0 +1,105 @@
+#include "Definitions.h"
+
+#include <fmt/format.h>
+
+#include "LineCutter.h"
+#include "Terminal.h"
+#include "Text.h"
+#include "VMetrics.h"
+
+namespace vmetrics {
+
+namespace {
+
+bool IsPassedOver(std::string_view line) {
+  return line.find_first_not_of(" \t\r") == std::string_view::npos || line.front() == '#';
+}
+
+/// The line of a file that was written under another system.
+std::string_view WithoutCarriageReturn(std::string_view line) {
+  return !line.empty() && line.back() == '\r' ? line.substr(0, line.size() - 1) : line;
+}
+
+void Read(const DefinitionFile& file, const TakeDefinition& take,
+          const std::function<void(const LinePlace&)>& overlong) {
+  Input input(file.name);
+  LineCutter cutter;
+  std::uint64_t overlongSoFar = 0;
+  std::uint64_t number = 0;
+  const auto tellOverlong = [&] {
+    for (; overlongSoFar < cutter.Overlong(); ++overlongSoFar) {
+      overlong({input.Name(), ++number});
+    }
+  };
+  const auto takeLine = [&](std::string_view line) {
+    tellOverlong();
+    ++number;
+    if (!IsPassedOver(line)) {
+      take({input.Name(), number}, line);
+    }
+  };
+  for (std::string_view piece = input.Read(); !piece.empty(); piece = input.Read()) {
+    cutter.Add(piece, takeLine);
+  }
+  cutter.Finish(takeLine);
+  tellOverlong();
+}
+
+}  // namespace
+
+void ReadDefinitions(const DefinitionFile& file, const TakeDefinition& take,
+                     const std::function<void(const LinePlace&)>& overlong) {
+  try {
+    Read(file, take, overlong);
+  } catch (const InputError& error) {
+    throw InputError(Printable(error.what()));
+  }
+}
+
+void Definitions::AddTo(CLI::App& command) {
+  command
+      .add_option("--definitions", numeric_,
+                  "Also know the metrics with a numeric ID that FILE defines, "
+                  "\"ID;type;name;private\" one a line; may be given again")
+      ->option_text("FILE")
+      ->allow_extra_args(false);
+  command
+      .add_option("--event-definitions", events_,
+                  "Also know the metrics with an event ID that FILE defines, "
+                  "\"event ID;type;name;private\" one a line; may be given again")
+      ->option_text("FILE")
+      ->allow_extra_args(false);
+}
+
+void Definitions::Register() {
+  const auto complain = [this](const LinePlace& place, std::string_view reason) {
+    Complain(fmt::format("{}:{}: {}", Printable(place.file), place.number, reason));
+    hasRefused_ = true;
+  };
+  for (const DefinitionFile& file : Files()) {
+    const auto add = [&](const LinePlace& place, std::string_view line) {
+      const std::string_view text = WithoutCarriageReturn(line);
+      if (RegisterDefinition(file.kind, text) != VMETRICS_OK) {
+        complain(place, RefusalOf(file.kind, text));
+      }
+    };
+    ReadDefinitions(file, add, [&](const LinePlace& place) {
+      complain(place, fmt::format("the line has more than {} bytes", LineCutter::kLongestLine));
+    });
+  }
+}
+
+int Definitions::Conclude(int status) const { return hasRefused_ ? kTrouble : status; }
+
+std::vector<DefinitionFile> Definitions::Files() const {
+  std::vector<DefinitionFile> files;
+  for (const std::string& name : numeric_) {
+    files.push_back({DefinitionKind::Numeric, name});
+  }
+  for (const std::string& name : events_) {
+    files.push_back({DefinitionKind::Event, name});
+  }
+  return files;
+}
+
+}  // namespace vmetrics

@@ -1,0 +1,32 @@
+#include "Privacy.h"
+
+#include <optional>
+
+#include "MetricLookup.h"
+
+namespace vmetrics {
+
+namespace {
+
+bool IsPrivate(const MetricEntry* metric) {
+  constexpr std::size_t kFlag = 2;
+  return metric != nullptr && metric->at(kFlag) == "1";
+}
+
+}  // namespace
+
+void Privacy::AddTo(CLI::App& command) {
+  command.add_flag("--show-private", showsPrivate_,
+                   "Show the values of private metrics and user names, which are masked otherwise");
+}
+
+bool Privacy::IsMasked(std::string_view eventId) const {
+  if (showsPrivate_) {
+    return false;
+  }
+  // A number is an event ID, too, if it is registered as one.
+  const std::optional<int> id = NumericId(eventId);
+  return (id && IsPrivate(FindNumericMetric(*id))) || IsPrivate(FindEventMetric(eventId));
+}
+
+}  // namespace vmetrics

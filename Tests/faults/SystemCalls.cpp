@@ -118,8 +118,8 @@ std::vector<Fault> SystemCalls::FaultsOf(SystemCall call) {
     faults.push_back({"nothing", 0, [](std::size_t) { return std::size_t{0}; }});
     faults.push_back(
         {"one byte", 0, [](std::size_t all) { return std::min<std::size_t>(all, 1); }});
-    faults.push_back({"half", 0, [](std::size_t all) { return all / 2; }});
-    faults.push_back({"all but one", 0, [](std::size_t all) { return all - 1; }});
+    faults.push_back({"half", 0, [](std::size_t all) { return (all + 1) / 2; }});
+    faults.push_back({"all but one", 0, [](std::size_t all) { return all > 1 ? all - 1 : all; }});
   }
   return faults;
 }

@@ -84,7 +84,8 @@ class AllocationSweepTest : public testing::TestWithParam<Scenario> {
     std::vector<std::string> outcomes;
     failed_[scenario.function] += FailEachAllocation(
         extent, [&scenario] { Prepare(scenario); }, scenario.call,
-        [&](const std::optional<std::string>& result) {
+        [&](const std::optional<std::string>& result, long kept) {
+          EXPECT_TRUE(result.has_value() || scenario.changesTable || kept == 0) << kept;
           const std::string changes = Changes(before, TheHost().Look(), after);
           Add(outcomes, result.value_or("bad_alloc") + changes + scenario.inspect());
         });

@@ -19,6 +19,9 @@ struct Scenario {
   ///
   /// Only that one: the call asks for no memory.
   std::vector<std::string> outcomes;
+
+  /// A call that fails leaves the table of transactions with more or less in it than before.
+  bool changesTable = false;
 };
 
 /// All or nothing: std::bad_alloc and no trace, or `outcome`.

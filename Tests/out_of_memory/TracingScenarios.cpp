@@ -103,23 +103,29 @@ Scenario Tracing(const char* name, const char* function, std::string (*call)(), 
   return {name, function, call, prepare, inspect, outcomes};
 }
 
+Scenario ChangingTable(Scenario scenario) {
+  scenario.changesTable = true;
+  return scenario;
+}
+
 std::vector<Scenario> InsertScenarios() {
   const std::string cleared = "; says ResourceClear";
   const std::string refused = "; says object is nullptr";
   return {
-      Tracing("StartOfFirstStep", kInsert, Start, OneOther, AskForStep,
-              {"bad_alloc; no step", "-9999" + refused + "; no transaction", "bad_alloc; no step",
-               "0; step open"}),
+      ChangingTable(Tracing("StartOfFirstStep", kInsert, Start, OneOther, AskForStep,
+                            {"bad_alloc; no step", "-9999" + refused + "; no transaction",
+                             "bad_alloc; no step", "0; step open"})),
       Tracing("StartOfSecondStep", kInsert, StartAnotherStep, OpenStep, AskForBothSteps,
               {"bad_alloc; step open; other no step", "0; step open; other step open"}),
       Tracing("StartOfOpenStep", kInsert, Start, OpenStep, AskForStep,
               {"bad_alloc; step open", "0; step open"}),
       // The others are dropped before the new one is made.
-      Tracing("StartOfHundredAndFirst", kInsert, Start, HundredOthers, AskForOthersToo,
-              {"bad_alloc; others' step open; no step",
-               "-9999" + cleared + refused + "; others' no step; no transaction",
-               "bad_alloc" + cleared + "; others' no step; no step",
-               "0" + cleared + "; others' no step; step open"}),
+      ChangingTable(Tracing("StartOfHundredAndFirst", kInsert, Start, HundredOthers,
+                            AskForOthersToo,
+                            {"bad_alloc; others' step open; no step",
+                             "-9999" + cleared + refused + "; others' no step; no transaction",
+                             "bad_alloc" + cleared + "; others' no step; no step",
+                             "0" + cleared + "; others' no step; step open"})),
       // The identifier is in the file before the step's line is put together.
       Tracing(
           "End", kInsert, End, OpenStep, AskForStep,

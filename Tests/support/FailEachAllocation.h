@@ -12,7 +12,8 @@
 
 /// Makes `call` once for each allocation, which then fails, until a run asks for no more memory
 /// than it gets. Before each run `prepare` is called, after it `check` with the call's result, or
-/// with none if it threw std::bad_alloc. Any other exception gets through and fails the test.
+/// with none if it threw std::bad_alloc, and with how many allocations more are held than before
+/// it. Any other exception gets through and fails the test.
 ///
 /// At least one allocation must have failed: a call that asks for no memory tests nothing. Returns
 /// how many have.
@@ -24,6 +25,7 @@ int FailEachAllocation(AllocationFailure::Extent extent, Prepare prepare, Call c
     SCOPED_TRACE("allocation " + std::to_string(first));
     prepare();
     std::optional<std::string> result;
+    const long held = AllocationFailure::Held();
     {
       const AllocationFailure failure(first, extent);
       try {
@@ -32,9 +34,10 @@ int FailEachAllocation(AllocationFailure::Extent extent, Prepare prepare, Call c
       }
       hits = failure.Hits();
     }
+    const long kept = AllocationFailure::Held() - held;
     failed += hits;
     EXPECT_TRUE(hits > 0 || result.has_value());
-    check(result);
+    check(result, kept);
   }
   EXPECT_GT(failed, 0);
   return failed;

@@ -17,15 +17,6 @@
 
 namespace {
 
-std::vector<Scenario> AllScenarios() {
-  std::vector<Scenario> all;
-  for (const auto& some :
-       {CatalogueScenarios(), RenderingScenarios(), ReportScenarios(), TracingScenarios()}) {
-    all.insert(all.end(), some.begin(), some.end());
-  }
-  return all;
-}
-
 std::vector<Scenario> ScenariosThatAllocate(bool allocate) {
   std::vector<Scenario> some;
   for (const Scenario& scenario : AllScenarios()) {
@@ -34,11 +25,6 @@ std::vector<Scenario> ScenariosThatAllocate(bool allocate) {
     }
   }
   return some;
-}
-
-void Prepare(const Scenario& scenario) {
-  TheHost().Reset();
-  scenario.prepare();
 }
 
 /// `text` at the end, unless it stands there already.
@@ -95,10 +81,8 @@ class AllocationSweepTest : public testing::TestWithParam<Scenario> {
 
 std::map<std::string, int> AllocationSweepTest::failed_;
 
-std::string NameOf(const testing::TestParamInfo<Scenario>& scenario) { return scenario.param.name; }
-
 INSTANTIATE_TEST_SUITE_P(Each, AllocationSweepTest, testing::ValuesIn(ScenariosThatAllocate(true)),
-                         NameOf);
+                         NameOfScenario);
 
 TEST_P(AllocationSweepTest, OneAllocationFails) {
   ExpectOutcomes(AllocationFailure::Extent::kOnce, GetParam().outcomes);
@@ -112,7 +96,7 @@ TEST_P(AllocationSweepTest, AllAllocationsFailFromThereOn) {
 class NoAllocationTest : public testing::TestWithParam<Scenario> {};
 
 INSTANTIATE_TEST_SUITE_P(Each, NoAllocationTest, testing::ValuesIn(ScenariosThatAllocate(false)),
-                         NameOf);
+                         NameOfScenario);
 
 // A memory that has run out makes no difference, then.
 TEST_P(NoAllocationTest, AsksForNoMemory) {

@@ -2,6 +2,8 @@
 #ifndef SCENARIO_H_
 #define SCENARIO_H_
 
+#include <gtest/gtest.h>
+
 #include <ostream>
 #include <string>
 #include <vector>
@@ -38,5 +40,13 @@ std::vector<Scenario> CatalogueScenarios();
 std::vector<Scenario> RenderingScenarios();
 std::vector<Scenario> ReportScenarios();
 std::vector<Scenario> TracingScenarios();
+std::vector<Scenario> AllScenarios();
+
+/// Resets the host and brings it to where the scenario's call is made.
+void Prepare(const Scenario& scenario);
+
+inline std::string NameOfScenario(const testing::TestParamInfo<Scenario>& scenario) {
+  return scenario.param.name;
+}
 
 #endif  // SCENARIO_H_

@@ -1,21 +1,19 @@
 #include "LineChannel.h"
 
 #include <fcntl.h>
-#include <poll.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
 
 #include "Deadline.h"
 #include "SignalGuard.h"
+#include "Stream.h"
 
 namespace {
 
@@ -37,50 +35,6 @@ int OpenRegular(const char* path, struct stat& status) {
   }
   return descriptor;
 }
-
-/// A pipe, socket or terminal, written to without ever waiting for its reader.
-class Stream {
- public:
-  /// Opens the stream anew for a moment, as the flag that keeps a write from waiting would
-  /// otherwise be set for everybody who shares it. Not kept open: its reader must see the end when
-  /// the host closes it.
-  explicit Stream(int descriptor) : descriptor_(descriptor) {
-    char path[32];
-    std::snprintf(path, sizeof path, "/proc/self/fd/%d", descriptor);
-    own_ = open(path, O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-  }
-  ~Stream() {
-    if (own_ >= 0) {
-      close(own_);
-    }
-  }
-  Stream(const Stream&) = delete;
-  Stream& operator=(const Stream&) = delete;
-
-  /// False when the deadline came before the stream could take anything.
-  bool WaitWritable(Deadline& deadline) const {
-    pollfd request = {own_ >= 0 ? own_ : descriptor_, POLLOUT, 0};
-    int ready = 0;
-    do {
-      ready = poll(&request, 1, static_cast<int>(deadline.MillisecondsLeft()));
-    } while (ready < 0 && errno == EINTR && !deadline.Passed());
-    return ready > 0;
-  }
-
-  ssize_t Write(const void* data, std::size_t size) const {
-    if (own_ >= 0) {
-      return write(own_, data, size);
-    }
-    // A socket cannot be opened. Beside it only what the process may not open any more is left, and
-    // may make it wait.
-    const ssize_t sent = send(descriptor_, data, size, MSG_DONTWAIT | MSG_NOSIGNAL);
-    return sent < 0 && errno == ENOTSOCK ? write(descriptor_, data, size) : sent;
-  }
-
- private:
-  const int descriptor_;
-  int own_;
-};
 
 }  // namespace
 

@@ -14,6 +14,7 @@
 #include "Deadline.h"
 #include "SignalGuard.h"
 #include "Stream.h"
+#include "Uninterrupted.h"
 
 namespace {
 
@@ -26,8 +27,10 @@ constexpr std::size_t kGatheredSize = 4096;
 /// `status` becomes the file's.
 int OpenRegular(const char* path, struct stat& status) {
   // Not blocking: a FIFO by that name would hold us until somebody opened its other end.
-  const int descriptor = open(
-      path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY, 0600);
+  const int descriptor = Uninterrupted([path] {
+    return open(
+        path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY, 0600);
+  });
   if (descriptor >= 0 && (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))) {
     close(descriptor);
     errno = EINVAL;
@@ -242,7 +245,7 @@ long LineChannel::WriteToFile(const Line& line) {
 
 int LineChannel::PushToStream(Line& line) {
   Deadline deadline(kLongestWaitMilliseconds);
-  const Stream stream(descriptor_);
+  const Stream stream(descriptor_, deadline);
   while (line.Left() > 0) {
     if (!stream.WaitWritable(deadline)) {
       return EAGAIN;

@@ -8,10 +8,13 @@
 #include <cerrno>
 #include <cstdio>
 
-Stream::Stream(int descriptor) : descriptor_(descriptor) {
+#include "Uninterrupted.h"
+
+Stream::Stream(int descriptor, Deadline& deadline) : descriptor_(descriptor) {
   char path[32];
   std::snprintf(path, sizeof path, "/proc/self/fd/%d", descriptor);
-  own_ = open(path, O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  own_ = Uninterrupted(
+      deadline, [&path] { return open(path, O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); });
 }
 
 Stream::~Stream() {

@@ -13,7 +13,7 @@ class Stream {
   /// Opens the stream anew for a moment, as the flag that keeps a write from waiting would
   /// otherwise be set for everybody who shares it. Not kept open: its reader must see the end when
   /// the host closes it.
-  explicit Stream(int descriptor);
+  Stream(int descriptor, Deadline& deadline);
   ~Stream();
   Stream(const Stream&) = delete;
   Stream& operator=(const Stream&) = delete;

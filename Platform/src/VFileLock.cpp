@@ -15,6 +15,7 @@
 #include "Deadline.h"
 #include "ErrnoKeeper.h"
 #include "SignalGuard.h"
+#include "Uninterrupted.h"
 #include "VPlatformConfig.h"
 
 namespace {
@@ -49,16 +50,19 @@ class Location {
   char path_[PATH_MAX];
 };
 
-int OpenExisting(const char* name) {
+int OpenExisting(const char* name, Deadline& deadline) {
   // Not blocking: a FIFO by that name would hold us until somebody opened its other end.
-  return open(name, O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
+  return Uninterrupted(deadline, [name] {
+    return open(name, O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
+  });
 }
 
 /// Creates the file, exclusively, so that only its creator sets its mode.
-int Create(const char* name) {
+int Create(const char* name, Deadline& deadline) {
   const mode_t mode = lockFileMode.load(std::memory_order_relaxed);
-  const int descriptor =
-      open(name, O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW | O_NOCTTY, mode);
+  const int descriptor = Uninterrupted(deadline, [name, mode] {
+    return open(name, O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW | O_NOCTTY, mode);
+  });
   if (descriptor >= 0) {
     fchmod(descriptor, mode);  // The umask may have taken bits away that the host asked for.
   }
@@ -67,12 +71,12 @@ int Create(const char* name) {
 
 /// Opens the file, creating it if it is missing. An existing one is opened without asking for its
 /// creation, as systems may refuse that for another user's file in a shared directory.
-int OpenOrCreate(const char* name) {
-  int descriptor = OpenExisting(name);
+int OpenOrCreate(const char* name, Deadline& deadline) {
+  int descriptor = OpenExisting(name, deadline);
   if (descriptor < 0 && errno == ENOENT) {
-    descriptor = Create(name);
+    descriptor = Create(name, deadline);
     if (descriptor < 0 && errno == EEXIST) {
-      descriptor = OpenExisting(name);  // Another process was faster.
+      descriptor = OpenExisting(name, deadline);  // Another process was faster.
     }
   }
   return descriptor;
@@ -80,11 +84,10 @@ int OpenOrCreate(const char* name) {
 
 /// Waits for the lock by asking again and again: a blocking request could only be ended by a
 /// signal, and signals belong to the host.
-bool LockInTime(int descriptor, int operation) {
+bool LockInTime(int descriptor, int operation, Deadline& deadline) {
   if (flock(descriptor, operation | LOCK_NB) == 0) {
     return true;
   }
-  Deadline deadline(kLongestWaitMilliseconds);
   long pause = kFirstPauseNanoseconds;
   while ((errno == EWOULDBLOCK || errno == EINTR) && !deadline.Passed()) {
     const timespec duration = {0, pause};
@@ -95,17 +98,6 @@ bool LockInTime(int descriptor, int operation) {
     }
   }
   return false;
-}
-
-/// Calls `attempt` until it is not interrupted, or has been for longer than anybody should wait.
-template <typename Attempt>
-auto Uninterrupted(Attempt attempt) {
-  Deadline deadline(kLongestWaitMilliseconds);
-  auto result = attempt();
-  while (result < 0 && errno == EINTR && !deadline.Passed()) {
-    result = attempt();
-  }
-  return result;
 }
 
 /// Calls `transfer(bytes done, bytes left)` until all is done, nothing moves any more or it fails.
@@ -190,13 +182,14 @@ bool VFileLockGuard::Lock(int operation) {
     return false;
   }
   const ErrnoKeeper keeper;
-  const int descriptor = OpenOrCreate(Location(file_.name_).Path());
+  Deadline deadline(kLongestWaitMilliseconds);
+  const int descriptor = OpenOrCreate(Location(file_.name_).Path(), deadline);
   if (descriptor < 0) {
     return false;
   }
   struct stat status;
-  const bool locked = LockInTime(descriptor, operation) && fstat(descriptor, &status) == 0 &&
-                      S_ISREG(status.st_mode);
+  const bool locked = LockInTime(descriptor, operation, deadline) &&
+                      fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
   if (!locked) {
     close(descriptor);
     return false;

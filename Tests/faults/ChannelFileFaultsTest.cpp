@@ -73,7 +73,8 @@ class ChannelFileFaultsTest : public testing::Test {
 
 // Lines go to the file from now on, or on to the stream where the file was refused.
 TEST_F(ChannelFileFaultsTest, FirstFile) {
-  const auto check = [&](const auto&) {
+  const auto check = [&](const auto& attack) {
+    EXPECT_TRUE(opened_ || !attack.Passes());
     EXPECT_EQ(WriteLine("next"), 0);
     EXPECT_EQ(stream_.Drain(), opened_ ? "" : "next\n");
     ExpectOpenOn(first_, opened_ ? 1 : 0);
@@ -93,7 +94,8 @@ TEST_F(ChannelFileFaultsTest, SecondFile) {
     Open(first_);
     EXPECT_EQ(WriteLine("before"), 0);
   };
-  const auto check = [&](const auto&) {
+  const auto check = [&](const auto& attack) {
+    EXPECT_TRUE(opened_ || !attack.Passes());
     EXPECT_EQ(WriteLine("next"), 0);
     ExpectOpenOn(opened_ ? second_ : first_, 1);
     EXPECT_EQ(FileContent::Read(first_), opened_ ? "before\n" : "before\nnext\n");
@@ -116,12 +118,13 @@ TEST_F(ChannelFileFaultsTest, FileThatTheHostHasClosed) {
     CloseFiles();
     SystemCalls::Advance(kLookMilliseconds);
   };
-  const auto check = [&](const auto&) {
+  const auto check = [&](const auto& attack) {
     SystemCalls::Advance(kLookMilliseconds);
     EXPECT_EQ(WriteLine("next"), 0);
     ExpectOpenOn(first_, 1);
     const std::string content = FileContent::Read(first_);
     EXPECT_TRUE(HoldsWholeLines(content, "before\n", "line", "next"));
+    EXPECT_TRUE(!attack.Passes() || content == "before\nline\nnext\n") << content;
     CloseFiles();
   };
   EXPECT_THAT(FailEachSystemCall(

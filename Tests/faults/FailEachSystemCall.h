@@ -34,7 +34,8 @@ struct Attack {
   /// Whether nobody should notice: a call that was interrupted, or moved something, can be made
   /// again.
   bool Passes() const {
-    const bool repeatable = call >= SystemCall::kFlock && call <= SystemCall::kNanosleep;
+    const bool repeatable =
+        call == SystemCall::kOpen || (call >= SystemCall::kFlock && call <= SystemCall::kNanosleep);
     const bool partial = fault.error == 0 && fault.part(1) > 0;
     return extent == SystemCallFailure::Extent::kOnce && repeatable &&
            (fault.error == EINTR || partial);

@@ -153,7 +153,7 @@ TEST_F(LineFaultsTest, LineAfterTheFileWasMovedAway) {
     ASSERT_EQ(std::rename(metrics_.c_str(), moved.c_str()), 0);
     SystemCalls::Advance(kLookMilliseconds);
   };
-  const auto check = [&](const auto&) {
+  const auto check = [&](const auto& attack) {
     SystemCalls::Advance(kLookMilliseconds);
     Write("next");
     const std::string old = FileContent::Read(moved);
@@ -161,6 +161,7 @@ TEST_F(LineFaultsTest, LineAfterTheFileWasMovedAway) {
     EXPECT_GE(old.size(), 7U);
     const std::string content = FileContent::Read(metrics_);
     EXPECT_TRUE(HoldsWholeLines(content, "", line, "next"));
+    EXPECT_TRUE(!attack.Passes() || content == line + "\nnext\n") << content;
     if (old.find(line + "\n") == std::string::npos &&
         content.find(line + "\n") == std::string::npos) {
       ExpectLossTold();

@@ -24,7 +24,7 @@ constexpr int kWarning = 2;
 constexpr char kSource[] = "Platform/src/VLogger";
 
 // All of this is there before the first constructor of the process runs and after its last
-// destructor has: the last diagnostic of a process comes from a destructor.
+// destructor has: the last diagnostic of a process comes while it exits.
 LineChannel metricsChannel(STDOUT_FILENO);
 LineChannel diagnosticsChannel(STDERR_FILENO);
 std::atomic<int> diagnosticsLevel{kWarning};

@@ -29,7 +29,7 @@ struct State {
   int clearsUntilFailure = 0;
 };
 
-/// Never destroyed: the last log line of a process comes from a destructor.
+/// Never destroyed: the last log line of a process comes while it exits.
 State& TheState();
 
 /// Counts down to a failure; true when it has come.

@@ -101,7 +101,7 @@ TEST_F(LifeOfProcessTest, FirstEventMayComeInAnExitHandler) {
   EXPECT_EQ(Cleared(), 1);
 }
 
-// The handler runs after the table is gone, which was made later than the handler was registered.
+// The handler runs after the table was cleared, which was made when it had been registered already.
 TEST_F(LifeOfProcessTest, ExitHandlerOlderThanTheFirstEventWorksToo) {
   Run({"everything-at-exit", "everything"});
   ExpectEverything(2);

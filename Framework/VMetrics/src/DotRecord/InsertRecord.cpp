@@ -1,8 +1,28 @@
 // The entry to step tracing.
 
+#include <cstdlib>
+#include <new>
+
 #include "Common/Log.h"
 #include "DotRecord/DotRecordManager.h"
 #include "VMetrics.h"
+
+namespace vmetrics {
+namespace {
+
+/// The table of the process, made by the first event that asks for it. At exit it is cleared, which
+/// is the process's last word, but not destroyed: exit handlers older than that event come later.
+DotRecordManager& TheManager() {
+  alignas(DotRecordManager) static unsigned char room[sizeof(DotRecordManager)];
+  static DotRecordManager* const manager = [] {
+    static_cast<void>(std::atexit([] { TheManager().ResourceClear(); }));
+    return new (room) DotRecordManager;
+  }();
+  return *manager;
+}
+
+}  // namespace
+}  // namespace vmetrics
 
 int VMetrics::InsertRecord(int status, const char* transactionId, const char* eventId,
                            const char* stepName, const char* spanParentId, int errorCode) {
@@ -24,9 +44,7 @@ int VMetrics::InsertRecord(int status, const char* transactionId, const char* ev
     return VMETRICS_INVALID;
   }
   DotStepRecord record{status, 4, errorCode, transactionId, eventId, stepName, "", spanParentId};
-  // Made by the first event that comes this far; says its last word when the process exits.
-  static DotRecordManager manager;
-  DotTransaction* const transaction = GetDotTransaction(manager, record.transactionId);
+  DotTransaction* const transaction = GetDotTransaction(TheManager(), record.transactionId);
   if (transaction == nullptr) {
     VMETRICS_LOG(kDotRecordSource, kLogError, "object is nullptr");
     return VMETRICS_INVALID;

@@ -165,28 +165,28 @@ class SpanFaultsTest : public testing::Test {
 };
 
 TEST_F(SpanFaultsTest, ParentThatIsRead) {
-  EXPECT_THAT(AttackParent(), ElementsAre("open", "close", "fstat", "flock", "pread"));
+  EXPECT_THAT(AttackParent(), ElementsAre("open", "close", "statx", "flock", "pread"));
 }
 
 TEST_F(SpanFaultsTest, ParentFromAFileThatIsMissing) {
   prepare_ = [this] { PrepareMissing(); };
-  EXPECT_THAT(AttackParent(), ElementsAre("open", "close", "fstat", "fchmod", "flock"));
+  EXPECT_THAT(AttackParent(), ElementsAre("open", "close", "statx", "fchmod", "flock"));
 }
 
 TEST_F(SpanFaultsTest, EndOfAStep) {
-  EXPECT_THAT(AttackStep(), ElementsAre("open", "close", "fstat", "flock", "pread", "pwrite",
+  EXPECT_THAT(AttackStep(), ElementsAre("open", "close", "statx", "flock", "pread", "pwrite",
                                         "write", "getrlimit"));
 }
 
 TEST_F(SpanFaultsTest, EndOfAStepWhereTheFileIsMissing) {
   prepare_ = [this] { PrepareMissing(); };
-  EXPECT_THAT(AttackStep(), ElementsAre("open", "close", "fstat", "fchmod", "flock", "pwrite",
+  EXPECT_THAT(AttackStep(), ElementsAre("open", "close", "statx", "fchmod", "flock", "pwrite",
                                         "write", "getrlimit"));
 }
 
 TEST_F(SpanFaultsTest, EndOfAStepWhereTheFileIsLonger) {
   prepare_ = [this] { Prepare(std::string(200, 'z')); };
-  EXPECT_THAT(AttackStep(), ElementsAre("open", "close", "fstat", "flock", "pread", "pwrite",
+  EXPECT_THAT(AttackStep(), ElementsAre("open", "close", "statx", "flock", "pread", "pwrite",
                                         "ftruncate", "write", "getrlimit"));
 }
 
@@ -256,7 +256,7 @@ TEST_F(SpanFaultsTest, FileThatIsRewrittenAndReadUnderOneLock) {
   };
   EXPECT_THAT(
       FailEachSystemCall([&] { FileContent::Write(path, before); }, act, check),
-      ElementsAre("open", "close", "fstat", "flock", "pread", "pwrite", "ftruncate", "getrlimit"));
+      ElementsAre("open", "close", "statx", "flock", "pread", "pwrite", "ftruncate", "getrlimit"));
 }
 
 }  // namespace

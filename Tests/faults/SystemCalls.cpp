@@ -93,18 +93,19 @@ constexpr bool MovesBytes(SystemCall call) {
 
 const std::vector<SystemCall>& SystemCalls::All() {
   static const std::vector<SystemCall>& all = *new std::vector<SystemCall>{
-      SystemCall::kOpen,     SystemCall::kClose,  SystemCall::kFstat,     SystemCall::kLstat,
-      SystemCall::kFchmod,   SystemCall::kFcntl,  SystemCall::kDup3,      SystemCall::kFlock,
-      SystemCall::kPread,    SystemCall::kPwrite, SystemCall::kFtruncate, SystemCall::kWrite,
-      SystemCall::kWritev,   SystemCall::kSend,   SystemCall::kPoll,      SystemCall::kNanosleep,
-      SystemCall::kGetrlimit};
+      SystemCall::kOpen,      SystemCall::kClose,    SystemCall::kFstat,  SystemCall::kStatx,
+      SystemCall::kLstat,     SystemCall::kFchmod,   SystemCall::kFcntl,  SystemCall::kDup3,
+      SystemCall::kFlock,     SystemCall::kPread,    SystemCall::kPwrite, SystemCall::kFtruncate,
+      SystemCall::kWrite,     SystemCall::kWritev,   SystemCall::kSend,   SystemCall::kPoll,
+      SystemCall::kNanosleep, SystemCall::kGetrlimit};
   return all;
 }
 
 const char* SystemCalls::NameOf(SystemCall call) {
-  static constexpr const char* kNames[] = {
-      "open",  "close",  "fstat", "lstat",  "fchmod", "fcntl", "dup3",      "flock",    "ftruncate",
-      "pread", "pwrite", "write", "writev", "send",   "poll",  "nanosleep", "getrlimit"};
+  static constexpr const char* kNames[] = {"open",   "close",     "fstat",    "statx",  "lstat",
+                                           "fchmod", "fcntl",     "dup3",     "flock",  "ftruncate",
+                                           "pread",  "pwrite",    "write",    "writev", "send",
+                                           "poll",   "nanosleep", "getrlimit"};
   return kNames[static_cast<std::size_t>(call)];
 }
 
@@ -143,6 +144,8 @@ extern "C" {
 int __real_open(const char* path, int flags, ...);
 int __real_close(int descriptor);
 int __real_fstat(int descriptor, struct stat* status);
+int __real_statx(int directory, const char* path, int flags, unsigned int mask,
+                 struct statx* status);
 int __real_lstat(const char* path, struct stat* status);
 int __real_fchmod(int descriptor, mode_t mode);
 int __real_fcntl(int descriptor, int command, ...);
@@ -177,6 +180,12 @@ int __wrap_close(int descriptor) {
 
 int __wrap_fstat(int descriptor, struct stat* status) {
   return Make(SystemCall::kFstat, [&] { return __real_fstat(descriptor, status); });
+}
+
+int __wrap_statx(int directory, const char* path, int flags, unsigned int mask,
+                 struct statx* status) {
+  return Make(SystemCall::kStatx,
+              [&] { return __real_statx(directory, path, flags, mask, status); });
 }
 
 int __wrap_lstat(const char* path, struct stat* status) {

@@ -16,6 +16,7 @@ enum class SystemCall {
   kOpen,
   kClose,
   kFstat,
+  kStatx,
   kLstat,
   kFchmod,
   kFcntl,

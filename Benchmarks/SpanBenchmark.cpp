@@ -1,21 +1,17 @@
-// Span identifiers, and whole steps, from one process and from four at once.
+// Span identifiers, and whole steps.
 
 #include <benchmark/benchmark.h>
 #include <sys/file.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
 
-#include <chrono>
 #include <cstdio>
 #include <random>
 
 #include "Records.h"
 #include "ScratchFiles.h"
-#include "VPlatformConfig.h"
+#include "Steps.h"
 
 namespace {
 
-constexpr char kOurLines[] = "ours.log";
 constexpr char kHandLines[] = "hand.log";
 constexpr char kHandSpan[] = "hand-spanId";
 
@@ -38,26 +34,28 @@ std::string IdentifierByHand() {
   return std::string(text, 36);
 }
 
-/// One session with the span file: open, lock, `use(descriptor)`, close.
+/// One session with the span file: open, lock, `use(descriptor)`, close. False when one failed.
 template <typename Use>
-void Session(Use use) {
+bool Session(Use use) {
   static const std::string path = ScratchFiles::Get().Path(kHandSpan);
   const int descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-  flock(descriptor, LOCK_EX);
-  use(descriptor);
-  close(descriptor);
+  const bool used = flock(descriptor, LOCK_EX) == 0 && use(descriptor);
+  return close(descriptor) == 0 && used;
 }
 
-void StepByHand() {
+bool StepByHand() {
   const unsigned long start = VDateTime::GetCurrentTick();
   const unsigned long end = VDateTime::GetCurrentTick();
   const std::string spanId = IdentifierByHand();
   std::string parent(128, '\0');
-  Session([&](int file) {
-    parent.resize(static_cast<std::size_t>(pread(file, parent.data(), parent.size(), 0)));
+  const bool read = Session([&](int file) {
+    const ssize_t size = pread(file, parent.data(), parent.size(), 0);
+    parent.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
+    return size >= 0;
   });
-  Session(
-      [&](int file) { benchmark::DoNotOptimize(pwrite(file, spanId.data(), spanId.size(), 0)); });
+  const bool published = Session([&](int file) {
+    return pwrite(file, spanId.data(), spanId.size(), 0) == static_cast<ssize_t>(spanId.size());
+  });
   std::string line;
   line.reserve(400);
   line.append("{\"eventId\":\"LOGIN\",\"timestamp\":");
@@ -72,68 +70,38 @@ void StepByHand() {
   line.append(",\"usedTime\":");
   AppendNumber(line, end - start);
   line.append("}}\n");
-  benchmark::DoNotOptimize(write(HandDescriptor(), line.data(), line.size()));
-}
-
-void StepOurs() {
-  VMetrics::InsertRecord(0, "order-7", "LOGIN", "authenticate", "ParentSpanId", 0);
-  VMetrics::InsertRecord(1, "order-7", "LOGIN", "authenticate", "ParentSpanId", 0);
+  const ssize_t written = write(HandDescriptor(), line.data(), line.size());
+  return read && published && written == static_cast<ssize_t>(line.size());
 }
 
 void IdentifierOurs() { benchmark::DoNotOptimize(VMetrics::GenerateUuid()); }
 void IdentifierFloor() { benchmark::DoNotOptimize(IdentifierByHand()); }
 
-bool SetUp() {
-  static const bool done = VPlatformConfig::SetMetricsFile(ScratchFiles::Get().Path(kOurLines)) &&
-                           VPlatformConfig::SetLockFileDirectory(ScratchFiles::Get().Path("")) &&
-                           HandDescriptor() >= 0;
-  ScratchFiles::Get().Empty(kOurLines);
-  ScratchFiles::Get().Empty(kHandLines);
-  return done;
-}
-
-template <void (*Step)()>
+template <void (*Make)()>
 void Run(benchmark::State& state) {
-  if (!SetUp()) {
-    state.SkipWithError("no files");
-  }
   for (auto iteration : state) {
-    Step();
+    Make();
   }
 }
 
-constexpr int kSteps = 4000;
-
-/// `processes` processes that share kSteps steps between them; the time is that of all of them.
-void RunProcesses(benchmark::State& state) {
-  if (!SetUp()) {
+template <bool (*Step)()>
+void RunSteps(benchmark::State& state) {
+  if (!PrepareSteps() || HandDescriptor() < 0) {
     state.SkipWithError("no files");
+    return;
   }
-  const int processes = static_cast<int>(state.range(0));
+  ScratchFiles::Get().Empty(kHandLines);
   for (auto iteration : state) {
-    const auto start = std::chrono::steady_clock::now();
-    for (int process = 0; process < processes; ++process) {
-      if (fork() == 0) {
-        for (int step = 0; step < kSteps / processes; ++step) {
-          StepOurs();
-        }
-        _exit(0);
-      }
+    if (!Step()) {
+      state.SkipWithError("a step was not taken");
+      break;
     }
-    while (wait(nullptr) > 0) {
-    }
-    const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-    state.SetIterationTime(time.count());
-  }
-  if (VMetrics::GetCurrentParentSpanId().size() != 36) {
-    state.SkipWithError("a torn identifier");
   }
 }
 
 BENCHMARK(Run<IdentifierOurs>)->Name("identifier/ours");
 BENCHMARK(Run<IdentifierFloor>)->Name("identifier/hand-written");
-BENCHMARK(Run<StepOurs>)->Name("step/ours");
-BENCHMARK(Run<StepByHand>)->Name("step/hand-written");
-BENCHMARK(RunProcesses)->Name("processes")->Arg(1)->Arg(4)->UseManualTime();
+BENCHMARK(RunSteps<StepOurs>)->Name("step/ours");
+BENCHMARK(RunSteps<StepByHand>)->Name("step/hand-written");
 
 }  // namespace

@@ -57,7 +57,9 @@ def read_times(directory):
     times = collections.defaultdict(list)
     for path in sorted(pathlib.Path(directory).glob("*.json")):
         for run in json.loads(path.read_text())["benchmarks"]:
-            if run["run_type"] != "iteration" or run.get("error_occurred"):
+            if run.get("error_occurred"):
+                sys.exit(f"{run['name']}: {run['error_message']}")
+            if run["run_type"] != "iteration":
                 continue
             time = run["real_time"]
             # Where one iteration handles many items, or several threads share them.

@@ -2,14 +2,15 @@
 
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
-#include <json/json.h>
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
+#include "JsonCppText.h"
 #include "Records.h"
+#include "SameText.h"
 
 namespace {
 
@@ -115,16 +116,17 @@ std::string JsonCpp() {
   line["moduleId"] = fields.moduleId;
   line["terminalId"] = std::to_string(fields.terminalId);
   line["args"]["displayFPS"] = fields.value;
-  static const Json::StreamWriterBuilder builder = [] {
-    Json::StreamWriterBuilder compact;
-    compact["indentation"] = "";
-    return compact;
-  }();
-  return Json::writeString(builder, line);
+  return WriteJsonCpp(line);
 }
 
-template <std::string (*Render)()>
+std::string OursSorted() { return AsJsonCppWrites(Ours()); }
+
+/// Measures `Render`, which makes the same text as `Expected`.
+template <std::string (*Render)(), std::string (*Expected)() = Ours>
 void Run(benchmark::State& state) {
+  if (!ExpectSameText(state, Render(), Expected())) {
+    return;
+  }
   for (auto iteration : state) {
     benchmark::DoNotOptimize(Render());
   }
@@ -136,6 +138,6 @@ BENCHMARK(Run<Snprintf>)->Name("numeric/snprintf");
 BENCHMARK(Run<Fmt>)->Name("numeric/fmt");
 BENCHMARK(Run<Nlohmann>)->Name("numeric/nlohmann");
 BENCHMARK(Run<RapidJson>)->Name("numeric/RapidJSON");
-BENCHMARK(Run<JsonCpp>)->Name("numeric/jsoncpp");
+BENCHMARK(Run<JsonCpp, OursSorted>)->Name("numeric/jsoncpp");
 
 }  // namespace

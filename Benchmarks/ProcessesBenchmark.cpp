@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "FileContent.h"
+#include "LineFiles.h"
 #include "LinesOf.h"
 #include "SpanIdentifierForm.h"
 #include "Steps.h"
@@ -76,17 +76,18 @@ const char* WhatIsWrong(const std::vector<std::string>& lines, const std::string
 /// `range(0)` processes that share kSteps steps between them; the time is that of all of them.
 void RunProcesses(benchmark::State& state) {
   for (auto iteration : state) {
-    const bool prepared = PrepareSteps();
+    bool taken = PrepareSteps();
     const std::string oldest = VMetrics::GetCurrentParentSpanId();
-    const auto start = std::chrono::steady_clock::now();
-    const bool taken = prepared && TakeSteps(static_cast<int>(state.range(0)));
-    const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-    state.SetIterationTime(time.count());
+    const std::string lines = Appended(kOurLines, [&] {
+      const auto start = std::chrono::steady_clock::now();
+      taken = taken && TakeSteps(static_cast<int>(state.range(0)));
+      const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+      state.SetIterationTime(time.count());
+    });
     if (!taken) {
       state.SkipWithError("a process did not take its steps");
       break;
     }
-    const std::string lines = FileContent::Read(ScratchFiles::Get().Path(kOurLines));
     if (const char* const wrong = WhatIsWrong(LinesOf(lines), oldest)) {
       state.SkipWithError(wrong);
       break;

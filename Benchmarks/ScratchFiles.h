@@ -7,6 +7,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 class ScratchFiles {
@@ -23,8 +24,8 @@ class ScratchFiles {
     return open(Path(name).c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
   }
 
-  /// Empties a file, so that repetitions do not fill the memory.
-  void Empty(const std::string& name) const { std::filesystem::resize_file(Path(name), 0); }
+  /// Empties a file, so that repetitions do not fill the memory, or makes an empty one.
+  void Empty(const std::string& name) const { std::ofstream(Path(name), std::ios::trunc); }
 
  private:
   ScratchFiles() {

@@ -6,19 +6,14 @@
 #include <cstdio>
 #include <random>
 
+#include "LineFiles.h"
 #include "Records.h"
 #include "ScratchFiles.h"
 #include "Steps.h"
 
 namespace {
 
-constexpr char kHandLines[] = "hand.log";
 constexpr char kHandSpan[] = "hand-spanId";
-
-int HandDescriptor() {
-  static const int descriptor = ScratchFiles::Get().OpenForAppending(kHandLines);
-  return descriptor;
-}
 
 std::string IdentifierByHand() {
   std::random_device device("default");
@@ -70,8 +65,7 @@ bool StepByHand() {
   line.append(",\"usedTime\":");
   AppendNumber(line, end - start);
   line.append("}}\n");
-  const ssize_t written = write(HandDescriptor(), line.data(), line.size());
-  return read && published && written == static_cast<ssize_t>(line.size());
+  return WriteByHand(line) && read && published;
 }
 
 void IdentifierOurs() { benchmark::DoNotOptimize(VMetrics::GenerateUuid()); }
@@ -84,24 +78,18 @@ void Run(benchmark::State& state) {
   }
 }
 
-template <bool (*Step)()>
+template <bool (*Step)(), const char* kLines>
 void RunSteps(benchmark::State& state) {
-  if (!PrepareSteps() || HandDescriptor() < 0) {
+  if (!PrepareSteps()) {
     state.SkipWithError("no files");
     return;
   }
-  ScratchFiles::Get().Empty(kHandLines);
-  for (auto iteration : state) {
-    if (!Step()) {
-      state.SkipWithError("a step was not taken");
-      break;
-    }
-  }
+  MeasureLines<Step, StepOurs>(state, kLines);
 }
 
 BENCHMARK(Run<IdentifierOurs>)->Name("identifier/ours");
 BENCHMARK(Run<IdentifierFloor>)->Name("identifier/hand-written");
-BENCHMARK(RunSteps<StepOurs>)->Name("step/ours");
-BENCHMARK(RunSteps<StepByHand>)->Name("step/hand-written");
+BENCHMARK(RunSteps<StepOurs, kOurLines>)->Name("step/ours");
+BENCHMARK(RunSteps<StepByHand, kHandLines>)->Name("step/hand-written");
 
 }  // namespace

@@ -2,19 +2,15 @@
 #ifndef BENCHMARKS_STEPS_H_
 #define BENCHMARKS_STEPS_H_
 
+#include "LineFiles.h"
 #include "ScratchFiles.h"
 #include "VMetrics.h"
 #include "VPlatformConfig.h"
 
-constexpr char kOurLines[] = "ours.log";
-
-/// Makes ready for steps; the file of lines is there and empty. False when a file is refused.
+/// Makes ready for steps, whose lines go to kOurLines. False when a file is refused.
 inline bool PrepareSteps() {
   static const bool done = VPlatformConfig::SetMetricsFile(ScratchFiles::Get().Path(kOurLines)) &&
                            VPlatformConfig::SetLockFileDirectory(ScratchFiles::Get().Path(""));
-  if (done) {
-    ScratchFiles::Get().Empty(kOurLines);
-  }
   return done;
 }
 

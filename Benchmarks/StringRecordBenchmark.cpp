@@ -42,21 +42,25 @@ std::string Ours(const Input& input) { return VMetrics::GetStringBaseMetricsStri
 
 /// Appends the payload without the white space between its values.
 void AppendCompacted(std::string& out, std::string_view json) {
+  const std::size_t begin = out.size();
+  out.resize(begin + json.size());
+  char* end = out.data() + begin;
   bool inside = false;
   for (std::size_t i = 0; i < json.size(); ++i) {
     const char character = json[i];
     if (inside) {
-      out.push_back(character);
+      *end++ = character;
       if (character == '\\') {
-        out.push_back(json[++i]);
+        *end++ = json[++i];
       } else if (character == '"') {
         inside = false;
       }
     } else if (character != ' ' && character != '\n' && character != '\r' && character != '\t') {
-      out.push_back(character);
+      *end++ = character;
       inside = character == '"';
     }
   }
+  out.resize(static_cast<std::size_t>(end - out.data()));
 }
 
 std::string HandWritten(const Input& input) {

@@ -37,20 +37,30 @@ int List() {
   return 0;
 }
 
-void Call(const Operation& operation, int calls) {
+bool Call(const Operation& operation, int calls) {
+  bool succeeded = true;
   for (int call = 0; call < calls; ++call) {
-    operation.call();
+    succeeded = operation.call() && succeeded;
   }
+  return succeeded;
+}
+
+/// Returns what the program exits with.
+int Count(const Operation& operation, int calls) {
+  bool succeeded = Call(operation, kFirstCalls);
+  CALLGRIND_TOGGLE_COLLECT;
+  succeeded = Call(operation, calls) && succeeded;
+  CALLGRIND_TOGGLE_COLLECT;
+  if (!succeeded) {
+    std::fprintf(stderr, "a call failed: %s\n", operation.name);
+  }
+  return succeeded ? 0 : 1;
 }
 
 int Count(const char* name, int calls) {
   for (const Operation& operation : Operations()) {
     if (std::strcmp(operation.name, name) == 0) {
-      Call(operation, kFirstCalls);
-      CALLGRIND_TOGGLE_COLLECT;
-      Call(operation, calls);
-      CALLGRIND_TOGGLE_COLLECT;
-      return 0;
+      return Count(operation, calls);
     }
   }
   std::fprintf(stderr, "no such operation: %s\n", name);

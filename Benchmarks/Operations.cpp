@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <filesystem>
 
 #include "Records.h"
 #include "VIpc.h"
@@ -12,6 +13,7 @@
 namespace {
 
 constexpr int kFirstMetric = 0x40000000;
+constexpr std::size_t kIdentifierSize = 36;
 
 /// Definitions of metrics that are not in the catalogue; registering one cuts it up.
 class Definitions {
@@ -27,7 +29,7 @@ class Definitions {
 Definitions metrics;
 Definitions events;
 
-void RenderNumeric() { const std::string line = VMetrics::GetBaseMetricsString(NumericRecord()); }
+bool RenderNumeric() { return !VMetrics::GetBaseMetricsString(NumericRecord()).empty(); }
 
 const std::vector<char>& NumericMessage() {
   static const std::vector<char> bytes = [] {
@@ -39,9 +41,9 @@ const std::vector<char>& NumericMessage() {
   return bytes;
 }
 
-void RenderMessage() {
+bool RenderMessage() {
   const auto* const message = reinterpret_cast<const VMessage*>(NumericMessage().data());
-  const std::string line = VMetrics::FmtMetricsMsgToString(message);
+  return !VMetrics::FmtMetricsMsgToString(message).empty();
 }
 
 template <std::size_t kPayload>
@@ -51,65 +53,67 @@ const VMetricsDataString* StringRecord() {
 }
 
 template <std::size_t kPayload>
-void RenderString() {
-  const std::string line = VMetrics::GetStringBaseMetricsString(StringRecord<kPayload>());
+bool RenderString() {
+  return !VMetrics::GetStringBaseMetricsString(StringRecord<kPayload>()).empty();
 }
 
-void RenderChecked() {
-  const std::string line = VMetrics::StringFmtMetricsMsgToString(StringRecord<16>());
-}
+bool RenderChecked() { return !VMetrics::StringFmtMetricsMsgToString(StringRecord<16>()).empty(); }
 
-void RenderValueById() {
+bool RenderValueById() {
   const int framesASecond = 60;
-  const std::string text =
-      VMetrics::ToString(0x120B0001, reinterpret_cast<const char*>(&framesASecond));
+  return !VMetrics::ToString(0x120B0001, reinterpret_cast<const char*>(&framesASecond)).empty();
 }
 
-void RenderValueByEventId() {
-  const std::string text = VMetrics::ToString("nox_user_connect", "{\"state\":\"connected\"}");
+bool RenderValueByEventId() {
+  return !VMetrics::ToString("nox_user_connect", "{\"state\":\"connected\"}").empty();
 }
 
-void ReportUsbDriverError() { VMetrics::SendUsbDriverErrorMetrics("usb"); }
+bool ReportUsbDriverError() { return VMetrics::SendUsbDriverErrorMetrics("usb") == VMETRICS_OK; }
 
-void ReportString() {
-  SendStringDataToMetric("nox_user_connect", "zelviewer", "[1, 2, 3]", 9,
-                         VMETRICS_HEADER_INDEX_CONNECTION);
+bool ReportString() {
+  return SendStringDataToMetric("nox_user_connect", "zelviewer", "[1, 2, 3]", 9,
+                                VMETRICS_HEADER_INDEX_CONNECTION) == VMETRICS_OK;
 }
 
-void ReportBizbox() { SendBizboxInsToMetric(); }
+bool ReportBizbox() { return SendBizboxInsToMetric() == VMETRICS_OK; }
 
-void ReportConnecting() { SendConnectVagToMetric(1700000000000, 1); }
+bool ReportConnecting() { return SendConnectVagToMetric(1700000000000, 1) == VMETRICS_OK; }
 
-void ReportConnected() {
+bool ReportConnected() {
   static const std::string first = "gateway";
   static const std::string second = "answered";
-  SendConnectVagToCommonMetric(first, second, true);
+  return SendConnectVagToCommonMetric(first, second, true) == VMETRICS_OK;
 }
 
-void ReportSlowModule() {
+bool ReportSlowModule() {
   static VMessage message{};
-  SendModuleProcessTimeoutMetric("display", "Resize", &message, 250);
+  return SendModuleProcessTimeoutMetric("display", "Resize", &message, 250) == VMETRICS_OK;
 }
 
-void ReportTransport() { SendTransChangeToMetrics("bandwidth", 7, 35); }
+bool ReportTransport() { return SendTransChangeToMetrics("bandwidth", 7, 35) == VMETRICS_OK; }
 
-void WriteReadyText() {
+bool WriteReadyText() {
   static const std::string text = VMetrics::GetBaseMetricsString(NumericRecord());
   VLogger::GetInstance().Metrics("%s", text.c_str());
+  return true;  // It tells nobody; PrepareOperations has seen that lines arrive.
 }
 
-void MakeIdentifier() { const std::string identifier = VMetrics::GenerateUuid(); }
+bool MakeIdentifier() { return VMetrics::GenerateUuid().size() == kIdentifierSize; }
 
-void ReadParent() { const std::string parent = VMetrics::GetCurrentParentSpanId(); }
+bool ReadParent() { return VMetrics::GetCurrentParentSpanId().size() == kIdentifierSize; }
 
-void TraceStep() {
-  VMetrics::InsertRecord(0, "order-7", "LOGIN", "authenticate", "ParentSpanId", 0);
-  VMetrics::InsertRecord(1, "order-7", "LOGIN", "authenticate", "ParentSpanId", 0);
+bool TraceStep() {
+  const auto report = [](int status) {
+    return VMetrics::InsertRecord(status, "order-7", "LOGIN", "authenticate", "ParentSpanId", 0);
+  };
+  return report(0) == VMETRICS_OK && report(1) == VMETRICS_OK;
 }
 
-void RegisterMetric() { VMetrics::RegisterMetricsDataType(metrics.Next()); }
+bool RegisterMetric() { return VMetrics::RegisterMetricsDataType(metrics.Next()) == VMETRICS_OK; }
 
-void RegisterEvent() { VMetrics::RegisterMetricsStringDataType(events.Next()); }
+bool RegisterEvent() {
+  return VMetrics::RegisterMetricsStringDataType(events.Next()) == VMETRICS_OK;
+}
 
 }  // namespace
 
@@ -146,6 +150,9 @@ bool PrepareOperations(const std::string& directory, int calls) {
     metrics.Add(number + ";int;metricName;0");
     events.Add("event_" + number + ";json;eventName;0");
   }
-  return VPlatformConfig::SetMetricsFile(directory + "/metrics.log") &&
-         VPlatformConfig::SetLockFileDirectory(directory);
+  const std::string lines = directory + "/metrics.log";
+  return VPlatformConfig::SetMetricsFile(lines) &&
+         VPlatformConfig::SetLockFileDirectory(directory) &&
+         TraceStep() &&  // A step must have ended for a parent to be there.
+         std::filesystem::file_size(lines) > 0;
 }

@@ -8,13 +8,13 @@
 
 struct Operation {
   const char* name;  ///< Letters, digits and underscores.
-  void (*call)();    ///< Asks for no memory but what a caller of the library would.
+  bool (*call)();    ///< Whether it succeeded. Asks for no memory but what a caller would.
 };
 
 const std::vector<Operation>& Operations();
 
-/// Makes ready for up to `calls` calls of each operation, which write their files to `directory`.
-/// False when the platform refuses the directory.
+/// Makes ready for up to `calls` calls of each operation, which write their files to `directory`,
+/// and ends a step. False when the platform refuses the directory.
 bool PrepareOperations(const std::string& directory, int calls);
 
 #endif  // BENCHMARKS_OPERATIONS_H_

@@ -33,8 +33,10 @@ const std::map<std::string, long>& GoldenCounts() {
 
 long AllocationsOf(const Operation& operation) {
   const long before = AllocationFailure::Allocations();
-  operation.call();
-  return AllocationFailure::Allocations() - before;
+  const bool succeeded = operation.call();
+  const long allocations = AllocationFailure::Allocations() - before;
+  EXPECT_TRUE(succeeded);
+  return allocations;
 }
 
 class AllocationCountTest : public testing::TestWithParam<Operation> {
@@ -42,7 +44,7 @@ class AllocationCountTest : public testing::TestWithParam<Operation> {
   void SetUp() override {
     ASSERT_TRUE(PrepareOperations(directory_.Path(), kFirstCalls + kCountedCalls));
     for (int call = 0; call < kFirstCalls; ++call) {
-      GetParam().call();
+      ASSERT_TRUE(GetParam().call());
     }
   }
 

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstdlib>
 
+#include "MetricId.h"
 #include "Text.h"
 #include "VMetrics.h"
 
@@ -22,21 +23,29 @@ std::string Described(const MetricEntry& entry) {
   return Printable(fmt::format("{} ({})", entry.at(1), entry.at(0)));
 }
 
+/// Why the ID counts as 0, which is none.
+std::string RefusalOfZero(const DecimalId& id, std::string_view text) {
+  const std::string printable = Printable(text);
+  if (id.value != 0) {
+    return fmt::format("of the ID {} only the low 32 bits count, which are 0", printable);
+  }
+  if (const auto hexadecimal = ParseMetricId(text); hexadecimal.value_or(0) != 0) {
+    return fmt::format("the ID {} is not decimal: write {}", printable, *hexadecimal);
+  }
+  return id.isNumber ? fmt::format("the ID \"{}\" counts as 0", printable)
+                     : fmt::format("the ID \"{}\" is not a decimal number", printable);
+}
+
 std::string NumericRefusal(const DefinitionFields& fields) {
   const DecimalId id(fields.id);
-  if (!id.isNumber) {
-    return fmt::format("the ID \"{}\" is not a decimal number", Printable(fields.id));
-  }
   if (id.key == 0) {
-    return id.value == 0 ? "the ID is 0"
-                         : fmt::format("of the ID {} only the low 32 bits count, which are 0",
-                                       Printable(fields.id));
+    return RefusalOfZero(id, fields.id);
   }
   const auto taken = VMetrics::GetMetricsMap().find(id.key);
   return taken == VMetrics::GetMetricsMap().end()
              ? std::string()
-             : fmt::format("the ID {} (0x{:08X}) is taken by {}", id.key,
-                           static_cast<unsigned int>(id.key), Described(taken->second));
+             : fmt::format("the ID {} ({}) is taken by {}", id.key, HexadecimalId(id.key),
+                           Described(taken->second));
 }
 
 std::string EventRefusal(const DefinitionFields& fields) {

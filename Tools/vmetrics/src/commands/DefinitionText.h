@@ -9,6 +9,9 @@
 
 namespace vmetrics {
 
+/// What some editors put in front of a text in UTF-8.
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 /// Which of the two catalogues a definition adds to.
 enum class DefinitionKind { Numeric, Event };
 

@@ -11,13 +11,19 @@ namespace vmetrics {
 
 namespace {
 
-bool IsPassedOver(std::string_view line) {
-  return line.find_first_not_of(" \t\r") == std::string_view::npos || line.front() == '#';
+std::string_view WithoutByteOrderMark(std::string_view line, std::uint64_t number) {
+  const bool hasMark = number == 1 && line.substr(0, kByteOrderMark.size()) == kByteOrderMark;
+  return hasMark ? line.substr(kByteOrderMark.size()) : line;
 }
 
 /// The line of a file that was written under another system.
 std::string_view WithoutCarriageReturn(std::string_view line) {
   return !line.empty() && line.back() == '\r' ? line.substr(0, line.size() - 1) : line;
+}
+
+/// Whether the line, without a byte order mark, is none of those that define something.
+bool IsPassedOver(std::string_view line) {
+  return line.find_first_not_of(" \t\r") == std::string_view::npos || line.front() == '#';
 }
 
 void Read(const DefinitionFile& file, const TakeDefinition& take,
@@ -34,7 +40,7 @@ void Read(const DefinitionFile& file, const TakeDefinition& take,
   const auto takeLine = [&](std::string_view line) {
     tellOverlong();
     ++number;
-    if (!IsPassedOver(line)) {
+    if (!IsPassedOver(WithoutByteOrderMark(line, number))) {
       take({input.Name(), number}, line);
     }
   };
@@ -59,14 +65,10 @@ void ReadDefinitions(const DefinitionFile& file, const TakeDefinition& take,
 void Definitions::AddTo(CLI::App& command) {
   command
       .add_option("--definitions", numeric_,
-                  "Also know the metrics with a numeric ID that FILE defines, "
-                  "\"ID;type;name;private\" one a line; may be given again")
+                  "Add the metrics of FILE, \"ID;type;name;private\" a line; may be repeated")
       ->option_text("FILE")
       ->allow_extra_args(false);
-  command
-      .add_option("--event-definitions", events_,
-                  "Also know the metrics with an event ID that FILE defines, "
-                  "\"event ID;type;name;private\" one a line; may be given again")
+  command.add_option("--event-definitions", events_, "The same for metrics with an event ID")
       ->option_text("FILE")
       ->allow_extra_args(false);
 }
@@ -78,7 +80,7 @@ void Definitions::Register() {
   };
   for (const DefinitionFile& file : Files()) {
     const auto add = [&](const LinePlace& place, std::string_view line) {
-      const std::string_view text = WithoutCarriageReturn(line);
+      const std::string_view text = WithoutCarriageReturn(WithoutByteOrderMark(line, place.number));
       if (RegisterDefinition(file.kind, text) != VMETRICS_OK) {
         complain(place, RefusalOf(file.kind, text));
       }

@@ -19,8 +19,8 @@ struct DefinitionFile {
   std::string name;
 };
 
-/// Takes a definition: its place, and its line as it stands but for the line feed, so that a
-/// carriage return may be its last character.
+/// Takes a definition: its place, and its line as it stands but for the line feed. A byte order
+/// mark may be in front of the first line of a file, a carriage return at the end of any.
 using TakeDefinition = std::function<void(const LinePlace&, std::string_view line)>;
 
 /// Reads a file of definitions, but for blank lines and those that begin with "#". A line of more
@@ -34,9 +34,10 @@ class Definitions {
  public:
   void AddTo(CLI::App& command);
 
-  /// Registers what the files define; to be called once, before the catalogue is used. Complains of
-  /// each line that is refused, as "FILE:LINE: reason", and goes on. A file that cannot be read
-  /// throws InputError: nothing that is printed without it would be right.
+  /// Registers what the files define, byte order marks and carriage returns at the ends of lines
+  /// aside; to be called once, before the catalogue is used. Complains of each line that is
+  /// refused, as "FILE:LINE: reason", and goes on. A file that cannot be read throws InputError:
+  /// nothing that is printed without it would be right.
   void Register();
 
   /// `status`, or that of trouble where a definition was refused.

@@ -1,0 +1,15 @@
+#include "Format.h"
+
+#include <fmt/format.h>
+
+namespace vmetrics {
+
+void AddFormat(CLI::App& command, std::string& format, const std::vector<std::string>& names) {
+  format = names.front();
+  command.add_option("--format", format)
+      ->option_text("FORMAT")
+      ->description(fmt::format("{}; without this option {}", fmt::join(names, ", "), format))
+      ->check(CLI::IsMember(names));
+}
+
+}  // namespace vmetrics

@@ -437,7 +437,7 @@ On a narrow terminal the columns leave that the ID tells already; colours are fo
 
   $ vmetrics catalogue --help
   Shows the metrics that the library knows
-  Usage: vmetrics catalogue [OPTIONS]
+  Usage: vmetrics catalogue [OPTIONS] [SUBCOMMAND]
   
   Options:
     -h,--help                   Print this help message and exit
@@ -451,6 +451,9 @@ On a narrow terminal the columns leave that the ID tells already; colours are fo
     --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a line; may be repeated
     --event-definitions FILE    The same for metrics with an event ID
     --format FORMAT             table, json, csv, markdown; without this option table
+  
+  Subcommands:
+    lint                        Tells which definitions are refused or surprise
   
   Exit status: 0; 1 if no metric matches all options; 2 in trouble.
   

@@ -6,6 +6,7 @@
 #include "Command.h"
 #include "Definitions.h"
 #include "Format.h"
+#include "catalogue/CatalogueCommand.h"
 #include "catalogue/CatalogueFilter.h"
 #include "catalogue/CatalogueFormats.h"
 
@@ -53,7 +54,19 @@ void AddCatalogue(CLI::App& program, Action& action) {
   request->filter.AddTo(*command);
   request->definitions.AddTo(*command);
   AddFormat(*command, request->format, {"table", "json", "csv", "markdown"});
-  command->callback([&action, request] { action = [request] { return Show(*request); }; });
+  const CLI::App* lint = AddCatalogueLint(*command, action);
+  command->callback([&action, request, command, lint] {
+    if (!lint->parsed()) {
+      action = [request] { return Show(*request); };
+      return;
+    }
+    for (const CLI::Option* option : command->get_options()) {
+      if (option->count() > 0) {
+        throw UsageError(option->get_name() +
+                         " stands in front of lint, whose options stand behind it");
+      }
+    }
+  });
 }
 
 }  // namespace vmetrics

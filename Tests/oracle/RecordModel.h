@@ -1,4 +1,4 @@
-/// What a line says, member by member, as the documents have it.
+/// What a line says, member by member, as docs/ has it.
 #ifndef ORACLE_RECORDMODEL_H_
 #define ORACLE_RECORDMODEL_H_
 

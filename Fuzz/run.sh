@@ -41,7 +41,7 @@ fuzz_all() {
   # shellcheck disable=SC2016  # The inner shell expands these.
   results=$(printf '%s\n' $subjects |
     xargs --max-procs="$processors" --max-args=1 \
-      sh -c '. bin/fuzzing; fuzz_one "$1" "$0"' "$share") || status=1
+      sh -c '. Fuzz/run.sh; fuzz_one "$1" "$0"' "$share") || status=1
   printf '%s\n' "$results"
   printf '%s\n' "$results" |
     awk '/ executions/ { all += $2 } END { printf "%-16s %12d executions\n", "all", all }'

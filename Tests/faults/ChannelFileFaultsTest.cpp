@@ -21,9 +21,6 @@ namespace {
 
 using testing::ElementsAre;
 
-/// So long that the channel looks at its file.
-constexpr long kLookMilliseconds = 500;
-
 class ChannelFileFaultsTest : public testing::Test {
  protected:
   ~ChannelFileFaultsTest() override { CloseFiles(); }

@@ -24,6 +24,9 @@ inline FaultTally faultTally;
 /// lock, a line and a diagnostic each have a tenth of a second, and a step's end has two locks.
 constexpr long kPatienceMilliseconds = 300;
 
+/// So long that a channel looks at its file.
+constexpr long kLookMilliseconds = 500;
+
 /// The fault of one run.
 struct Attack {
   SystemCall call;

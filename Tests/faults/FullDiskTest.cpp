@@ -6,7 +6,6 @@
 
 #include <filesystem>
 #include <functional>
-#include <sstream>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -14,9 +13,11 @@
 #include "ChildProcess.h"
 #include "FileContent.h"
 #include "FullDisk.h"
+#include "LinesOf.h"
 #include "SpanIdentifierForm.h"
 #include "TemporaryDirectory.h"
 #include "TestPipe.h"
+#include "TracedStep.h"
 #include "VLogger.h"
 #include "VMetrics.h"
 #include "VPlatformConfig.h"
@@ -24,15 +25,6 @@
 namespace {
 
 constexpr int kMayNotMount = 77;
-
-std::vector<std::string> LinesOf(const std::string& text) {
-  std::istringstream stream(text);
-  std::vector<std::string> lines;
-  for (std::string line; std::getline(stream, line);) {
-    lines.push_back(line);
-  }
-  return lines;
-}
 
 /// Line `number` of a test, `length` bytes long.
 std::string Line(int number, std::size_t length) {
@@ -42,11 +34,6 @@ std::string Line(int number, std::size_t length) {
 }
 
 void Write(const std::string& line) { VLogger::GetInstance().Metrics("%s", line.c_str()); }
-
-int TraceStep() {
-  return VMetrics::InsertRecord(0, "t", "e", "s", "", 0) |
-         VMetrics::InsertRecord(1, "t", "e", "s", "ParentSpanId", 0);
-}
 
 /// Runs each test in a process whose metrics file and span file lie on the disk. Its diagnostics go
 /// through a pipe, which always has room.

@@ -16,6 +16,7 @@
 #include "LinesOf.h"
 #include "NonRegularFiles.h"
 #include "TemporaryDirectory.h"
+#include "TracedStep.h"
 #include "VLogger.h"
 #include "VMetrics.h"
 #include "VPlatformConfig.h"
@@ -53,10 +54,7 @@ class HostilePathsTest : public testing::TestWithParam<const char*> {
     return all;
   }
 
-  std::string LastLine() const {
-    const std::string lines = FileContent::Read(metrics_);
-    return lines.substr(lines.rfind('\n', lines.size() - 2) + 1);
-  }
+  std::string LastLine() const { return LastLineOf(FileContent::Read(metrics_)); }
 
   /// Makes `call` some times: it is quick, leaves no descriptor, and nothing is touched by it.
   template <typename Call>
@@ -88,8 +86,7 @@ TEST_P(HostilePathsTest, SpanFileIsRefused) {
   }
   ExpectHarmless([] { EXPECT_EQ(VMetrics::GetCurrentParentSpanId(), "ParentSpanId"); });
   ExpectHarmless([&] {
-    EXPECT_EQ(VMetrics::InsertRecord(0, "t", "e", "s", "", 0), 0);
-    EXPECT_EQ(VMetrics::InsertRecord(1, "t", "e", "s", "ParentSpanId", 0), 0);
+    EXPECT_EQ(TraceStep(), 0);
     EXPECT_NE(LastLine().find("\"parentSpanId\":\"ParentSpanId\""), std::string::npos)
         << LastLine();
   });

@@ -26,9 +26,6 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-/// So long that the channel looks at its file.
-constexpr long kLookMilliseconds = 500;
-
 /// `text` with a zero for each number, as times differ from run to run.
 std::string WithoutNumbers(const std::string& text) {
   std::string without;

@@ -1,20 +1,22 @@
 // The span file and steps that end, on a machine that fails.
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
-#include <sys/file.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "FailEachSystemCall.h"
 #include "FileContent.h"
+#include "HeldLock.h"
 #include "LineRemains.h"
+#include "LinesOf.h"
 #include "SpanIdentifierForm.h"
 #include "TemporaryDirectory.h"
+#include "TextMember.h"
+#include "TracedStep.h"
 #include "VFileLock.h"
 #include "VLogger.h"
 #include "VMetrics.h"
@@ -36,15 +38,6 @@ bool EndsWith(const std::string& text, const std::string& end) {
   return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
-/// The text of a member of the one line of JSON in `line`; empty where there is none.
-std::string Member(const std::string& line, const std::string& key) {
-  const std::string head = "\"" + key + "\":\"";
-  const std::size_t at = line.find(head);
-  return at == std::string::npos
-             ? ""
-             : line.substr(at + head.size(), line.find('"', at + head.size()) - at - head.size());
-}
-
 class SpanFaultsTest : public testing::Test {
  protected:
   SpanFaultsTest() {
@@ -55,7 +48,7 @@ class SpanFaultsTest : public testing::Test {
 
   /// No look at the metrics file is due for some time.
   void Prepare(const std::string& content) {
-    SystemCalls::Advance(500);
+    SystemCalls::Advance(kLookMilliseconds);
     VLogger::GetInstance().Metrics("before");
     FileContent::Write(metrics_, "");
     FileContent::Write(span_, content);
@@ -66,22 +59,15 @@ class SpanFaultsTest : public testing::Test {
     std::filesystem::remove(span_);
   }
 
-  static void TraceStep() {
-    for (const int status : {0, 1}) {
-      EXPECT_EQ(KeepingErrno([&] {
-                  return VMetrics::InsertRecord(status, "t", "e", "s", "ParentSpanId", 0);
-                }),
-                0);
-    }
-  }
+  static void EndStep() { EXPECT_EQ(KeepingErrno(TraceStep), 0); }
 
   /// The next step is as any: its line whole, its parent what the file held, its identifier there.
   void ExpectNextStep() {
     const std::string parent = VMetrics::GetCurrentParentSpanId();
-    TraceStep();
+    EndStep();
     ExpectLastStepInFile();
     const std::string lines = FileContent::Read(metrics_);
-    EXPECT_EQ(Member(LastLine(), "parentSpanId"), parent);
+    EXPECT_EQ(TextMember(LastLine(), "parentSpanId"), parent);
     EXPECT_EQ(lines.find("\n\n"), std::string::npos) << lines;
   }
 
@@ -90,14 +76,11 @@ class SpanFaultsTest : public testing::Test {
     const std::string last = LastLine();
     EXPECT_TRUE(BeginsWith(last, "{\"eventId\":\"e\",")) << last;
     EXPECT_TRUE(EndsWith(last, "}}\n")) << last;
-    EXPECT_PRED1(IsSpanIdentifier, Member(last, "spanId"));
-    EXPECT_EQ(FileContent::Read(span_), Member(last, "spanId"));
+    EXPECT_PRED1(IsSpanIdentifier, TextMember(last, "spanId"));
+    EXPECT_EQ(FileContent::Read(span_), TextMember(last, "spanId"));
   }
 
-  std::string LastLine() const {
-    const std::string lines = FileContent::Read(metrics_);
-    return lines.substr(lines.size() < 2 ? 0 : lines.rfind('\n', lines.size() - 2) + 1);
-  }
+  std::string LastLine() const { return LastLineOf(FileContent::Read(metrics_)); }
 
   /// The file holds the old identifier, the new one, or what a write that came short left of both.
   void ExpectOldOrNew(const Attack& attack) const {
@@ -134,7 +117,7 @@ class SpanFaultsTest : public testing::Test {
   }
 
   std::vector<std::string> AttackStep() {
-    return FailEachSystemCall([&] { prepare_(); }, [] { TraceStep(); },
+    return FailEachSystemCall([&] { prepare_(); }, EndStep,
                               [&](const Attack& attack) {
                                 ExpectOldOrNew(attack);
                                 ExpectStepsLine(attack);
@@ -151,8 +134,8 @@ class SpanFaultsTest : public testing::Test {
     const std::string line = FileContent::Read(metrics_);
     EXPECT_TRUE(attack.call == SystemCall::kWrite || EndsWith(line, "}}\n")) << line;
     if (!line.empty() && line.back() == '\n') {
-      EXPECT_PRED1(IsSpanIdentifier, Member(line, "spanId"));
-      const std::string parent = Member(line, "parentSpanId");
+      EXPECT_PRED1(IsSpanIdentifier, TextMember(line, "spanId"));
+      const std::string parent = TextMember(line, "parentSpanId");
       EXPECT_TRUE(parent == kPlaceholder || BeginsWith(old_.substr(0, 128), parent)) << line;
     }
   }
@@ -194,24 +177,22 @@ TEST_F(SpanFaultsTest, EndOfAStepWhereTheFileIsLonger) {
 // may each take their tenth of a second.
 TEST_F(SpanFaultsTest, EndOfAStepWhereTheLockIsHeld) {
   constexpr long kPatienceOfBoth = 410;
-  int holder = -1;
+  std::optional<HeldLock> held;
   const auto prepare = [&] {
     Prepare(kOld);
-    holder = open(span_.c_str(), O_RDWR | O_CLOEXEC);
-    ASSERT_EQ(flock(holder, LOCK_EX | LOCK_NB), 0);
+    held.emplace(span_, LOCK_EX);
   };
   const auto check = [&](const Attack& attack) {
     EXPECT_EQ(FileContent::Read(span_), kOld);
     ExpectStepsLine(attack);
     const std::string line = FileContent::Read(metrics_);
     if (!line.empty() && line.back() == '\n') {
-      EXPECT_EQ(Member(line, "parentSpanId"), kPlaceholder);
+      EXPECT_EQ(TextMember(line, "parentSpanId"), kPlaceholder);
     }
-    close(holder);
+    held.reset();
     ExpectNextStep();
   };
-  EXPECT_THAT(FailEachSystemCall(
-                  prepare, [] { TraceStep(); }, check, kPatienceOfBoth),
+  EXPECT_THAT(FailEachSystemCall(prepare, EndStep, check, kPatienceOfBoth),
               ElementsAre("open", "close", "flock", "write", "nanosleep"));
 }
 

@@ -10,8 +10,10 @@
 #include "ChildProcess.h"
 #include "Elapsed.h"
 #include "FileContent.h"
+#include "LinesOf.h"
 #include "SpanIdentifierForm.h"
 #include "TemporaryDirectory.h"
+#include "TracedStep.h"
 #include "VFileLock.h"
 #include "VMetrics.h"
 #include "VPlatformConfig.h"
@@ -24,11 +26,6 @@ constexpr char kSecond[] = "d091bb5c-22ae-e7e1-d5c3-1f792082352c";
 constexpr long kPatienceMilliseconds = 300;
 /// Half of what they would take one after the other; a busy machine has to serve each of them.
 constexpr long kPatienceAmongEight = 800;
-
-int TraceStep() {
-  return VMetrics::InsertRecord(0, "t", "e", "s", "", 0) |
-         VMetrics::InsertRecord(1, "t", "e", "s", "ParentSpanId", 0);
-}
 
 class StoppedHolderTest : public testing::Test {
  protected:
@@ -67,10 +64,7 @@ class StoppedHolderTest : public testing::Test {
         << LastLine();
   }
 
-  std::string LastLine() const {
-    const std::string lines = FileContent::Read(metrics_);
-    return lines.substr(lines.rfind('\n', lines.size() - 2) + 1);
-  }
+  std::string LastLine() const { return LastLineOf(FileContent::Read(metrics_)); }
 
   /// Nothing was written behind the holder's back, and no parent made up.
   void ExpectStepWithoutTheFile() const {

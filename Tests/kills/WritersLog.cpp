@@ -9,21 +9,7 @@
 #include "KilledWriter.h"
 #include "LineCutter.h"
 #include "SpanIdentifierForm.h"
-
-namespace {
-
-/// A text member, empty where there is none. Good for values that need no escaping.
-std::string Member(const std::string& text, const std::string& key) {
-  const std::string before = "\"" + key + "\":\"";
-  const std::size_t at = text.find(before);
-  if (at == std::string::npos) {
-    return "";
-  }
-  const std::size_t begin = at + before.size();
-  return text.substr(begin, text.find('"', begin) - begin);
-}
-
-}  // namespace
+#include "TextMember.h"
 
 WritersLog::WritersLog(const std::string& path, int writers)
     : next_(static_cast<std::size_t>(writers)) {
@@ -52,14 +38,14 @@ std::size_t WritersLog::ParentsWithoutStep() const {
 
 void WritersLog::Take(std::string_view text) {
   const std::string copy(text);
-  Member(copy, "eventId") == "kills" ? TakeLine(copy) : TakeStep(copy);
+  TextMember(copy, "eventId") == "kills" ? TakeLine(copy) : TakeStep(copy);
 }
 
-void WritersLog::TakeLine(const std::string& text) { TakeNumber(text, Member(text, "text")); }
+void WritersLog::TakeLine(const std::string& text) { TakeNumber(text, TextMember(text, "text")); }
 
 void WritersLog::TakeStep(const std::string& text) {
-  const std::string identifier = Member(text, "spanId");
-  const std::string parent = Member(text, "parentSpanId");
+  const std::string identifier = TextMember(text, "spanId");
+  const std::string parent = TextMember(text, "parentSpanId");
   EXPECT_PRED1(IsSpanIdentifier, identifier) << text;
   identifiers_.insert(identifier);
   ++steps_;
@@ -69,7 +55,7 @@ void WritersLog::TakeStep(const std::string& text) {
     EXPECT_PRED1(IsSpanIdentifier, parent) << text;
     parents_.insert(parent);
   }
-  TakeNumber(text, Member(text, "stepName"));
+  TakeNumber(text, TextMember(text, "stepName"));
 }
 
 /// The text must be the next one of its writer, and hold exactly what was written.

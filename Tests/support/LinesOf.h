@@ -16,4 +16,9 @@ inline std::vector<std::string> LinesOf(const std::string& text) {
   return lines;
 }
 
+/// The last line of `text` as it stands there, with its line break if it has one.
+inline std::string LastLineOf(const std::string& text) {
+  return text.substr(text.size() < 2 ? 0 : text.rfind('\n', text.size() - 2) + 1);
+}
+
 #endif  // LINESOF_H_

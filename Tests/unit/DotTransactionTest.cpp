@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <new>
+#include <optional>
 #include <string>
 
-#include "AllocationFailure.h"
 #include "DotRecord/DotTransaction.h"
+#include "FailEachAllocation.h"
 #include "SpanMatchers.h"
 #include "VMetrics.h"
 
@@ -328,15 +328,13 @@ TEST_F(DotTransactionTest, UsedTimeWrapsWhenTheClockWentBack) {
 // A start whose memory runs out has not happened.
 TEST_F(DotTransactionTest, StartWithoutMemoryOpensNoStep) {
   DotStepRecord record = Event(0, "a step name that is too long to be stored in place");
-  for (int number = 1; transaction.stepStarts.empty(); ++number) {
-    AllocationFailure failure(number);
-    try {
-      EXPECT_EQ(transaction.InsertRecord(&record), VMETRICS_OK);
-      EXPECT_GT(number, 2);  // The entry of the map and its key.
-    } catch (const std::bad_alloc&) {
-      EXPECT_THAT(transaction.stepStarts, IsEmpty());
-    }
-  }
+  const int failed = FailEachAllocation(
+      AllocationFailure::Extent::kOnce, [] {},
+      [&] { return std::to_string(transaction.InsertRecord(&record)); },
+      [&](const std::optional<std::string>& result, long) {
+        EXPECT_EQ(transaction.stepStarts.size(), result == "0" ? 1U : 0U);
+      });
+  EXPECT_EQ(failed, 2);  // The entry of the map and its key.
 }
 
 // An end whose memory runs out leaves its step open. The file has the step's identifier from the
@@ -344,25 +342,29 @@ TEST_F(DotTransactionTest, StartWithoutMemoryOpensNoStep) {
 TEST_F(DotTransactionTest, EndWithoutMemoryLeavesTheStepOpenAndTheFileWhole) {
   int beforeWrite = 0;
   int afterWrite = 0;
-  for (int number = 1;; ++number) {
+  DotStepRecord record;
+  const auto prepare = [&] {
     FakePlatform::Reset();
     StartAt1000("s");
     FakePlatform::Files()["spanId"] = kSpanA;
     RoomForFileOperations();
-    DotStepRecord record = Event(1, "s", "ParentSpanId");
-    AllocationFailure failure(number);
-    try {
-      EXPECT_EQ(transaction.InsertRecord(&record), VMETRICS_OK);
-      break;
-    } catch (const std::bad_alloc&) {
+    record = Event(1, "s", "ParentSpanId");
+  };
+  const auto check = [&](const std::optional<std::string>& result, long) {
+    EXPECT_FALSE(HasOpenSession());
+    if (result) {
+      EXPECT_EQ(result, "0");
+      return;
     }
     EXPECT_THAT(transaction.stepStarts, ElementsAre(Pair("s", 1000)));
     EXPECT_THAT(FakePlatform::MetricsLines(), IsEmpty());
-    EXPECT_FALSE(HasOpenSession());
     const bool written = FakePlatform::Files()["spanId"] != kSpanA;
     EXPECT_EQ(FakePlatform::Files()["spanId"], written ? record.spanId : kSpanA);
     ++(written ? afterWrite : beforeWrite);
-  }
+  };
+  FailEachAllocation(
+      AllocationFailure::Extent::kOnce, prepare,
+      [&] { return std::to_string(transaction.InsertRecord(&record)); }, check);
   EXPECT_GT(beforeWrite, 0);
   EXPECT_GT(afterWrite, 0);
   EXPECT_THAT(transaction.stepStarts, IsEmpty());

@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <new>
+#include <optional>
 #include <set>
 #include <string>
 
-#include "AllocationFailure.h"
+#include "FailEachAllocation.h"
 #include "SpanMatchers.h"
 #include "VMetrics.h"
 
@@ -275,32 +275,23 @@ const std::string kLong(100, 'x');
 // was stored as null is the one exception; it is told apart by its status.
 TEST_F(InsertRecordTest, StartWithoutMemoryOpensNoStep) {
   const std::string step = kLong + "step";
+  std::string id;
   int thrown = 0;
   int refused = 0;
-  for (int number = 1;; ++number) {
-    const std::string id = kLong + Id() + std::to_string(number);
-    int status = VMETRICS_OK;
-    bool failed = false;
-    {
-      const AllocationFailure failure(number);
-      try {
-        status = VMetrics::InsertRecord(0, id.c_str(), kLong.c_str(), step.c_str(), kParent, 0);
-      } catch (const std::bad_alloc&) {
-        failed = true;
-      }
-    }
-    if (failed) {
-      ++thrown;
-      EXPECT_EQ(End(id, step.c_str()), VMETRICS_STEP_ERROR) << number;
-    } else if (status == VMETRICS_INVALID) {
-      ++refused;
-      EXPECT_EQ(End(id, step.c_str()), VMETRICS_INVALID) << number;
-    } else {
-      EXPECT_EQ(status, VMETRICS_OK);
-      EXPECT_EQ(End(id, step.c_str()), VMETRICS_OK);
-      break;
-    }
-  }
+  const auto start = [&] {
+    return std::to_string(
+        VMetrics::InsertRecord(0, id.c_str(), kLong.c_str(), step.c_str(), kParent, 0));
+  };
+  const auto check = [&](const std::optional<std::string>& result, long) {
+    thrown += result.has_value() ? 0 : 1;
+    refused += result == "-9999" ? 1 : 0;
+    EXPECT_EQ(End(id, step.c_str()), !result             ? VMETRICS_STEP_ERROR
+                                     : result == "-9999" ? VMETRICS_INVALID
+                                                         : VMETRICS_OK);
+  };
+  int number = 0;
+  const auto prepare = [&] { id = kLong + Id() + std::to_string(++number); };
+  FailEachAllocation(AllocationFailure::Extent::kOnce, prepare, start, check);
   EXPECT_EQ(refused, 1);
   EXPECT_GE(thrown, 8);  // Three texts, ID and entry of the transaction, entry of the step ...
   EXPECT_THAT(FakePlatform::MetricsLines(), SizeIs(1));
@@ -309,25 +300,22 @@ TEST_F(InsertRecordTest, StartWithoutMemoryOpensNoStep) {
 TEST_F(InsertRecordTest, EndWithoutMemoryCanBeRepeated) {
   const std::string id = kLong + Id();
   const std::string step = kLong + "step";
-  bool done = false;
-  for (int number = 1; !done; ++number) {
+  const auto prepare = [&] {
     FakePlatform::Reset();
     Start(id, step.c_str());
     RoomForFileOperations();
     FakePlatform::Files()["spanId"] = kSpanA;
-    {
-      const AllocationFailure failure(number);
-      try {
-        EXPECT_EQ(End(id, step.c_str(), kParent), VMETRICS_OK);
-        done = true;
-      } catch (const std::bad_alloc&) {
-      }
-    }
-    EXPECT_FALSE(HasOpenSession()) << number;
-    EXPECT_EQ(FakePlatform::MetricsLines().size(), done ? 1U : 0U) << number;
-    EXPECT_TRUE(IsSpanIdentifier(FakePlatform::Files()["spanId"])) << number;
-    EXPECT_EQ(End(id, step.c_str()), done ? VMETRICS_STEP_ERROR : VMETRICS_OK) << number;
-  }
+  };
+  const auto check = [&](const std::optional<std::string>& result, long) {
+    EXPECT_TRUE(!result || result == "0") << *result;
+    EXPECT_FALSE(HasOpenSession());
+    EXPECT_EQ(FakePlatform::MetricsLines().size(), result ? 1U : 0U);
+    EXPECT_TRUE(IsSpanIdentifier(FakePlatform::Files()["spanId"]));
+    EXPECT_EQ(End(id, step.c_str()), result ? VMETRICS_STEP_ERROR : VMETRICS_OK);
+  };
+  FailEachAllocation(
+      AllocationFailure::Extent::kOnce, prepare,
+      [&] { return std::to_string(End(id, step.c_str(), kParent)); }, check);
 }
 
 }  // namespace

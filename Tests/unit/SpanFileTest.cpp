@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <new>
+#include <optional>
 #include <ostream>
 #include <string>
 
-#include "AllocationFailure.h"
 #include "DotRecord/SpanFile.h"
+#include "FailEachAllocation.h"
 #include "SpanMatchers.h"
 #include "VMetrics.h"
 
@@ -251,28 +251,26 @@ TEST_F(SpanFileTest, NeitherReadingNorWritingReadsTheClock) {
   EXPECT_THAT(FakePlatform::MetricsLines(), IsEmpty());
 }
 
-/// Makes the allocations of the call fail in turn, until the call passes; returns how many did.
-template <typename Call>
-int FailAllocationsInTurn(Call call) {
-  for (int number = 1;; ++number) {
-    FakePlatform::Reset();
-    FakePlatform::Files()["spanId"] = Characters(128);
-    RoomForFileOperations();
-    AllocationFailure failure(number);
-    try {
-      call();
-      EXPECT_EQ(failure.Hits(), 0) << "allocation " << number << " failed unnoticed";
-      return number - 1;
-    } catch (const std::bad_alloc&) {
-    }
-    EXPECT_FALSE(HasOpenSession()) << "allocation " << number;
-  }
+/// Makes each allocation of `call` fail in turn; the lock is given back each time.
+void FailEachAllocationOf(void (*call)()) {
+  FailEachAllocation(
+      AllocationFailure::Extent::kOnce,
+      [] {
+        FakePlatform::Reset();
+        FakePlatform::Files()["spanId"] = Characters(128);
+        RoomForFileOperations();
+      },
+      [call] {
+        call();
+        return std::string();
+      },
+      [](const std::optional<std::string>&, long) { EXPECT_FALSE(HasOpenSession()); });
 }
 
 TEST_F(SpanFileTest, LockIsGivenBackWhenMemoryRunsOut) {
-  EXPECT_GT(FailAllocationsInTurn([] { VMetrics::GetCurrentParentSpanId(); }), 0);
-  EXPECT_GT(FailAllocationsInTurn([] { TakeParentSpanId(); }), 0);
-  EXPECT_GT(FailAllocationsInTurn([] { PublishSpanId(kSpanA); }), 0);
+  FailEachAllocationOf([] { VMetrics::GetCurrentParentSpanId(); });
+  FailEachAllocationOf([] { TakeParentSpanId(); });
+  FailEachAllocationOf([] { PublishSpanId(kSpanA); });
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 #include <fmt/core.h>
 
+#include <algorithm>
 #include <exception>
 #include <string>
+#include <string_view>
 
 #include "Command.h"
 #include "Terminal.h"
@@ -13,7 +15,16 @@ namespace {
 constexpr const char* kDescription =
     "Shows, checks and makes what VMetrics writes: its catalogue, packed records, metrics logs.";
 
+bool IsRun(int argumentCount, char** arguments) {
+  return argumentCount > 1 && std::string_view(arguments[1]) == "run";
+}
+
 int Run(int argumentCount, char** arguments) {
+  // What stands behind the first "--" of `run` is a command of the user's, which the parser must
+  // not touch: to it "{}" and "[a,b]" are no plain texts.
+  char** const end = arguments + argumentCount;
+  char** const separator =
+      IsRun(argumentCount, arguments) ? std::find(arguments, end, std::string_view("--")) : end;
   CLI::App program(kDescription, "vmetrics");
   program.set_version_flag("--version", "vmetrics " VMETRICS_VERSION);
   program.require_subcommand(1);
@@ -21,12 +32,12 @@ int Run(int argumentCount, char** arguments) {
   vmetrics::AddCatalogue(program, action);
   vmetrics::AddDecode(program, action);
   vmetrics::AddEncode(program, action);
-  vmetrics::AddRun(program, action);
+  vmetrics::AddRun(program, action, separator == end ? nullptr : separator + 1);
   vmetrics::AddTrace(program, action);
   vmetrics::AddStats(program, action);
   vmetrics::AddCheck(program, action);
   try {
-    program.parse(argumentCount, arguments);
+    program.parse(static_cast<int>(separator - arguments), arguments);
   } catch (const CLI::Success& help) {
     return program.exit(help);
   } catch (const CLI::RequiredError&) {
@@ -48,8 +59,7 @@ int main(int argumentCount, char** arguments) {
   // Of what the library has to say here, the tool tells its user itself, in words about the input.
   VPlatformConfig::SetDiagnosticsLevel(0);
   // A command that is run as a step has its own exit statuses; 125 is the wrapper's trouble.
-  const bool isRun = argumentCount > 1 && std::string(arguments[1]) == "run";
-  const int trouble = isRun ? 125 : vmetrics::kTrouble;
+  const int trouble = IsRun(argumentCount, arguments) ? 125 : vmetrics::kTrouble;
   try {
     const int status = Run(argumentCount, arguments);
     vmetrics::FinishOutput();

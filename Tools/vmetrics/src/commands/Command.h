@@ -18,9 +18,10 @@ void AddCatalogue(CLI::App& program, Action& action);
 void AddCheck(CLI::App& program, Action& action);
 void AddDecode(CLI::App& program, Action& action);
 void AddEncode(CLI::App& program, Action& action);
-void AddRun(CLI::App& program, Action& action);
 void AddStats(CLI::App& program, Action& action);
 void AddTrace(CLI::App& program, Action& action);
+/// `command` is what it is to run: name, arguments, null; or a null pointer where there is nothing.
+void AddRun(CLI::App& program, Action& action, char** command);
 
 /// Wrong usage that only a subcommand itself can tell.
 class UsageError : public std::runtime_error {

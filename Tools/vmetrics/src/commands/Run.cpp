@@ -1,10 +1,216 @@
+#include <fmt/format.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+
+#include <cerrno>
+#include <csignal>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+#include <vector>
+
 #include "Command.h"
+#include "CommandWatch.h"
+#include "HeldSignals.h"
+#include "StartedCommand.h"
+#include "Text.h"
+#include "VMetrics.h"
+#include "VPlatformConfig.h"
 
 namespace vmetrics {
 
-void AddRun(CLI::App& program, Action& action) {
-  CLI::App* command = program.add_subcommand("run", "");
-  command->callback([&action] { action = [] { return kSuccess; }; });
+namespace {
+
+constexpr const char* kDescription =
+    "Runs a command as a step of a transaction: times it and writes a step record with its exit "
+    "status as error code, to standard error unless a file is named. Neither the command's name "
+    "nor its arguments are recorded.";
+constexpr const char* kFooter =
+    "Example:\n"
+    "  vmetrics run --step backup --transaction nightly --metrics metrics.log -- tar cf b.tar "
+    "data\n"
+    "Exit status: the command's; 126 if it could not be run, 127 if it was not found, 128+N if\n"
+    "signal N ended it, 125 for a failure of vmetrics itself.";
+
+/// What the library takes for: from the span file.
+const std::string kParentFromFile = "ParentSpanId";
+constexpr const char* kStandardOutput = "-";
+constexpr int kWarnings = 2;
+
+enum StepStatus : int { kStarts = 0, kEnds = 1 };
+
+// Exit statuses as shells have them.
+enum CommandStatus : int { kCannotRun = 126, kNotFound = 127, kSignalled = 128 };
+
+struct StepOptions {
+  std::string name;
+  std::optional<std::string> transactionId;
+  std::string eventId = "vmetrics_run";
+  std::string parentId;
+  bool isParentFromFile = false;
+  std::optional<std::string> metricsFile;
+  std::string spanDirectory;
+};
+
+/// How a command came to its end.
+struct Ending {
+  int exitStatus;
+  int signal;  ///< Which ended it, 0 where none did.
+};
+
+std::string ReasonOfRefusal(int error) {
+  switch (error) {
+    case EINVAL:
+    case ENXIO:
+      return "Not a regular file";
+    case ELOOP:
+      return "A symbolic link, which is not followed";
+    default:
+      return std::generic_category().message(error);
+  }
+}
+
+void Check(const StepOptions& options, char** command) {
+  if (command == nullptr || *command == nullptr) {
+    throw UsageError("there is no command; it stands behind --");
+  }
+  if (options.name.empty()) {
+    throw UsageError("--step: the name is empty");
+  }
+  if (options.transactionId == std::string()) {
+    throw UsageError("--transaction: the identifier is empty");
+  }
+}
+
+void Configure(const StepOptions& options) {
+  VPlatformConfig::SetDiagnosticsLevel(kWarnings);
+  if (!VPlatformConfig::SetLockFileDirectory(options.spanDirectory)) {
+    throw UsageError("--span-directory: the name is too long");
+  }
+  if (options.metricsFile && options.metricsFile != kStandardOutput &&
+      !VPlatformConfig::SetMetricsFile(*options.metricsFile)) {
+    const std::string reason = ReasonOfRefusal(errno);
+    throw std::runtime_error(
+        fmt::format("{}: {}; the command was not run", Printable(*options.metricsFile), reason));
+  }
+}
+
+class Step {
+ public:
+  explicit Step(const StepOptions& options)
+      : options_(options),
+        transactionId_(options.transactionId ? *options.transactionId : VMetrics::GenerateUuid()) {}
+
+  void Start() const {
+    if (Insert(kStarts, 0) != VMETRICS_OK) {
+      throw std::runtime_error("the step cannot be started; the command was not run");
+    }
+  }
+
+  /// Nothing that goes wrong here is the command's failure: it is told, no more.
+  void End(int errorCode) const try {
+    if (Insert(kEnds, errorCode) != VMETRICS_OK) {
+      Complain("the step is not recorded");
+    }
+    if (VMetrics::GetCurrentParentSpanId() == kParentFromFile) {
+      const std::string place = options_.spanDirectory.empty() ? "" : options_.spanDirectory + "/";
+      Complain(fmt::format("{}spanId: cannot be locked; the steps that follow do not find this one",
+                           Printable(place)));
+    }
+  } catch (const std::exception& error) {
+    Complain(fmt::format("the step is not recorded: {}", error.what()));
+  }
+
+ private:
+  int Insert(StepStatus status, int errorCode) const {
+    const std::string& parent = options_.isParentFromFile ? kParentFromFile : options_.parentId;
+    return VMetrics::InsertRecord(status, transactionId_.c_str(), options_.eventId.c_str(),
+                                  options_.name.c_str(), parent.c_str(), errorCode);
+  }
+
+  const StepOptions& options_;
+  const std::string transactionId_;
+};
+
+Ending EndingOf(int waitStatus, int startError) {
+  if (startError != 0) {
+    return {startError == ENOENT ? kNotFound : kCannotRun, 0};
+  }
+  if (WIFSIGNALED(waitStatus)) {
+    return {kSignalled + WTERMSIG(waitStatus), WTERMSIG(waitStatus)};
+  }
+  return {WEXITSTATUS(waitStatus), 0};
+}
+
+/// Ends as the command has ended, so that a shell's loop breaks off at Ctrl-C as ever. Returns only
+/// in the first process of a container, which its own signals do not end.
+void DieOf(int signal, const HeldSignals& signals) {
+  prctl(PR_SET_DUMPABLE, 0);  // The core that tells something is the command's.
+  signals.Obey(signal);
+}
+
+int RunStep(const StepOptions& options, char** command) {
+  Check(options, command);
+  OccupyStandardStreams();
+  Configure(options);
+  const Step step(options);
+  step.Start();
+  const HeldSignals signals;
+  const StartedCommand started(command, signals);
+  LeaveDescriptorsToCommand(options.metricsFile == kStandardOutput);
+  const int waitStatus = CommandWatch(started.Id(), signals).WaitForEnd();
+  const int startError = started.StartError();
+  if (startError != 0) {
+    Complain(
+        fmt::format("{}: {}", Printable(*command), std::generic_category().message(startError)));
+  }
+  const Ending ending = EndingOf(waitStatus, startError);
+  step.End(ending.exitStatus);
+  if (ending.signal != 0) {
+    DieOf(ending.signal, signals);
+  }
+  return ending.exitStatus;
+}
+
+}  // namespace
+
+void AddRun(CLI::App& program, Action& action, char** command) {
+  CLI::App* run = program.add_subcommand("run", kDescription);
+  run->footer(kFooter);
+  const auto options = std::make_shared<StepOptions>();
+  run->add_option("--step", options->name, "Name of the step")->type_name("NAME")->required();
+  run->add_option("--transaction", options->transactionId,
+                  "Transaction that the step belongs to; a new one if left out")
+      ->type_name("ID");
+  run->add_option("--event", options->eventId, "Event ID of the record")
+      ->type_name("ID")
+      ->capture_default_str();
+  CLI::Option* parent =
+      run->add_option("--parent", options->parentId, "Identifier of the parent span")
+          ->type_name("ID");
+  run->add_flag("--parent-from-file", options->isParentFromFile,
+                "Take the parent from the span file: the step that ended last before this one ends")
+      ->excludes(parent);
+  run->add_option("--metrics", options->metricsFile,
+                  "Append the record to this file; - is standard output")
+      ->type_name("FILE");
+  run->add_option("--span-directory", options->spanDirectory,
+                  "Where the span file lies, if not in the working directory")
+      ->type_name("DIR");
+  const auto misplaced = std::make_shared<std::vector<std::string>>();
+  run->add_option("command", *misplaced, "The command and its arguments, behind --")
+      ->type_name("-- COMMAND");
+  run->callback([&action, options, misplaced, command] {
+    action = [options, misplaced, command] {
+      if (!misplaced->empty()) {
+        throw UsageError(
+            fmt::format("{}: what is not an option stands behind --", misplaced->front()));
+      }
+      return RunStep(*options, command);
+    };
+  });
 }
 
 }  // namespace vmetrics

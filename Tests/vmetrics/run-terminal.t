@@ -1,0 +1,237 @@
+A command at a terminal, under an interactive shell with job control: to the user it is as if vmetrics
+were not there.
+
+  $ error_code() { tail -n 1 log | sed -E 's/.*"errorCode":([^,]*),.*/\1/'; }
+  $ cat >waiting <<'END'
+  > #!/bin/sh
+  > echo started
+  > read line
+  > echo "read $line"
+  > exit 5
+  > END
+  $ cat >counting <<'END'
+  > #!/usr/bin/env python3
+  > import signal, sys
+  > names = []
+  > for number in map(signal.Signals, map(int, sys.argv[1:])):
+  >     signal.signal(number, lambda got, frame: names.append(signal.Signals(got).name))
+  > print("started", flush=True)
+  > line = sys.stdin.readline()
+  > print("signals:", *names, "end")
+  > END
+  $ cat >sleeping <<'END'
+  > #!/bin/sh
+  > trap 'kill $!; echo told; exit 4' HUP INT TERM
+  > sleep 60 &
+  > echo started
+  > wait
+  > END
+  $ chmod +x waiting counting sleeping
+
+Ctrl-C ends the command:
+
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type vmetrics run --step s --metrics log -- ./waiting
+  > await started
+  > press C
+  > await shell>
+  > type echo status $?
+  > await status 130
+  > await shell>
+  > END
+  $ error_code
+  130
+
+And a loop around it:
+
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type for i in 1 2 3; do vmetrics run --step s --metrics loop -- ./waiting; done; echo the shell goes on
+  > await started
+  > press C
+  > await shell>
+  > END
+  $ wc -l <loop
+  1
+  $ cat >loop.sh <<'END'
+  > for i in 1 2 3; do vmetrics run --step s --metrics loop.log -- ./waiting; done
+  > END
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type bash loop.sh
+  > await started
+  > press C
+  > await shell>
+  > END
+  $ wc -l <loop.log
+  1
+
+A command that has its own way with what the terminal sends gets it once:
+
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type vmetrics run --step s --metrics log -- ./counting 2 3 20
+  > await started
+  > press C
+  > press \
+  > press Z
+  > type
+  > await signals: SIGINT SIGQUIT SIGTSTP end
+  > await shell>
+  > END
+  $ error_code
+  0
+
+Ctrl-Z stops both, and the shell lets both go on:
+
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type vmetrics run --step s --metrics log -- ./waiting
+  > await started
+  > press Z
+  > await Stopped
+  > await shell>
+  > type fg
+  > await vmetrics run
+  > type hello
+  > await read hello
+  > await shell>
+  > type echo status $?
+  > await status 5
+  > await shell>
+  > END
+  $ error_code
+  5
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type vmetrics run --step s --metrics log -- ./counting 18
+  > await started
+  > press Z
+  > await Stopped
+  > await shell>
+  > type fg
+  > await vmetrics run
+  > type
+  > await signals: SIGCONT end
+  > await shell>
+  > END
+
+Sent to vmetrics alone they do the same:
+
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type set -b
+  > await shell>
+  > type vmetrics run --step s --metrics log -- ./sleeping &
+  > await started
+  > type kill -TSTP $!
+  > await Stopped
+  > type kill -CONT $!; kill -TERM $!
+  > await told
+  > await Exit 4
+  > END
+  $ error_code
+  4
+
+Sent to the whole group by another process:
+
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type set -b
+  > await shell>
+  > type vmetrics run --step s --metrics log -- ./sleeping &
+  > await started
+  > type kill -TSTP %1
+  > await Stopped
+  > type kill -CONT %1; kill -TERM %1
+  > await told
+  > await Exit 4
+  > END
+
+In the background the command may not read from the terminal; in the foreground it goes on:
+
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type set -b
+  > await shell>
+  > type vmetrics run --step s --metrics log -- ./waiting &
+  > await Stopped
+  > type jobs -l
+  > await Stopped (tty input)
+  > await shell>
+  > type fg
+  > await vmetrics run
+  > type hello
+  > await read hello
+  > await shell>
+  > END
+  $ error_code
+  5
+
+A pipeline of two stops and goes on as one:
+
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type vmetrics run --step a --metrics log -- ./waiting | vmetrics run --step b --metrics log -- cat
+  > await started
+  > press Z
+  > await Stopped
+  > await shell>
+  > type fg
+  > await vmetrics run
+  > type hello
+  > await read hello
+  > await shell>
+  > END
+  $ tail -n 2 log | sed -E 's/.*"stepName":"(.)","errorCode":(.).*/\1 \2/' | sort
+  a 5
+  b 0
+
+A command that leaves the group, as timeout does, still hears the terminal, with all of its own group:
+
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type vmetrics run --step s --metrics log -- timeout 60 ./sleeping
+  > await started
+  > press C
+  > await told
+  > await shell>
+  > END
+  $ error_code
+  4
+
+A shell with jobs of its own:
+
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type vmetrics run --step s --metrics log -- bash --norc --noprofile -i
+  > await shell>
+  > type ./waiting
+  > await started
+  > press Z
+  > await Stopped
+  > await shell>
+  > type fg
+  > await ./waiting
+  > type hello
+  > await read hello
+  > await shell>
+  > type exit 3
+  > await shell>
+  > type echo status $?
+  > await status 3
+  > await shell>
+  > END
+  $ error_code
+  3
+
+When the terminal goes away, the leader of its session alone is told by the system. Were vmetrics not
+there, that would be the command:
+
+  $ "$TESTDIR/terminal" vmetrics run --step s --metrics log -- ./sleeping <<'END'
+  > await started
+  > hang up
+  > END
+  $ error_code
+  4

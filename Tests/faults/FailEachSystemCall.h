@@ -37,10 +37,8 @@ struct Attack {
   /// Whether nobody should notice: a call that was interrupted, or moved something, can be made
   /// again.
   bool Passes() const {
-    const bool repeatable =
-        call == SystemCall::kOpen || (call >= SystemCall::kFlock && call <= SystemCall::kNanosleep);
     const bool partial = fault.error == 0 && fault.part(1) > 0;
-    return extent == SystemCallFailure::Extent::kOnce && repeatable &&
+    return extent == SystemCallFailure::Extent::kOnce && SystemCalls::IsRepeatable(call) &&
            (fault.error == EINTR || partial);
   }
 

@@ -15,7 +15,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <initializer_list>
+#include <iterator>
 
 namespace {
 
@@ -85,29 +85,52 @@ ssize_t Move(SystemCall call, std::size_t size, Real real) {
   return part == 0 ? 0 : real(part);
 }
 
-constexpr bool MovesBytes(SystemCall call) {
-  return call >= SystemCall::kPread && call <= SystemCall::kSend;
+struct Row {
+  SystemCall call;
+  const char* name;
+  bool repeatable;  ///< Made again when a signal has interrupted it, or it has moved a part.
+  bool movesBytes;
+};
+
+constexpr Row kRows[] = {
+    {SystemCall::kOpen, "open", true, false},
+    {SystemCall::kClose, "close", false, false},
+    {SystemCall::kFstat, "fstat", false, false},
+    {SystemCall::kStatx, "statx", false, false},
+    {SystemCall::kLstat, "lstat", false, false},
+    {SystemCall::kFchmod, "fchmod", false, false},
+    {SystemCall::kFcntl, "fcntl", false, false},
+    {SystemCall::kDup3, "dup3", false, false},
+    {SystemCall::kFlock, "flock", true, false},
+    {SystemCall::kPread, "pread", true, true},
+    {SystemCall::kPwrite, "pwrite", true, true},
+    {SystemCall::kFtruncate, "ftruncate", true, false},
+    {SystemCall::kWrite, "write", true, true},
+    {SystemCall::kWritev, "writev", true, true},
+    {SystemCall::kSend, "send", true, true},
+    {SystemCall::kPoll, "poll", true, false},
+    {SystemCall::kNanosleep, "nanosleep", true, false},
+    {SystemCall::kGetrlimit, "getrlimit", false, false},
+};
+
+const Row& RowOf(SystemCall call) {
+  return *std::find_if(std::begin(kRows), std::end(kRows),
+                       [call](const Row& row) { return row.call == call; });
 }
 
 }  // namespace
 
-const std::vector<SystemCall>& SystemCalls::All() {
-  static const std::vector<SystemCall>& all = *new std::vector<SystemCall>{
-      SystemCall::kOpen,      SystemCall::kClose,    SystemCall::kFstat,  SystemCall::kStatx,
-      SystemCall::kLstat,     SystemCall::kFchmod,   SystemCall::kFcntl,  SystemCall::kDup3,
-      SystemCall::kFlock,     SystemCall::kPread,    SystemCall::kPwrite, SystemCall::kFtruncate,
-      SystemCall::kWrite,     SystemCall::kWritev,   SystemCall::kSend,   SystemCall::kPoll,
-      SystemCall::kNanosleep, SystemCall::kGetrlimit};
+std::vector<SystemCall> SystemCalls::All() {
+  std::vector<SystemCall> all;
+  for (const Row& row : kRows) {
+    all.push_back(row.call);
+  }
   return all;
 }
 
-const char* SystemCalls::NameOf(SystemCall call) {
-  static constexpr const char* kNames[] = {"open",   "close",     "fstat",    "statx",  "lstat",
-                                           "fchmod", "fcntl",     "dup3",     "flock",  "ftruncate",
-                                           "pread",  "pwrite",    "write",    "writev", "send",
-                                           "poll",   "nanosleep", "getrlimit"};
-  return kNames[static_cast<std::size_t>(call)];
-}
+const char* SystemCalls::NameOf(SystemCall call) { return RowOf(call).name; }
+
+bool SystemCalls::IsRepeatable(SystemCall call) { return RowOf(call).repeatable; }
 
 std::vector<Fault> SystemCalls::FaultsOf(SystemCall call) {
   std::vector<Fault> faults = {{"EINTR", EINTR, nullptr},   {"EIO", EIO, nullptr},
@@ -115,7 +138,7 @@ std::vector<Fault> SystemCalls::FaultsOf(SystemCall call) {
                                {"EMFILE", EMFILE, nullptr}, {"EACCES", EACCES, nullptr},
                                {"EROFS", EROFS, nullptr},   {"ENOLCK", ENOLCK, nullptr},
                                {"ENOENT", ENOENT, nullptr}, {"EWOULDBLOCK", EWOULDBLOCK, nullptr}};
-  if (MovesBytes(call)) {
+  if (RowOf(call).movesBytes) {
     faults.push_back({"nothing", 0, [](std::size_t) { return std::size_t{0}; }});
     faults.push_back(
         {"one byte", 0, [](std::size_t all) { return std::min<std::size_t>(all, 1); }});

@@ -42,8 +42,11 @@ struct Fault {
 
 namespace SystemCalls {
 
-const std::vector<SystemCall>& All();
+std::vector<SystemCall> All();
 const char* NameOf(SystemCall call);
+
+/// Whether the call can be made again when it was interrupted, or has moved a part of its bytes.
+bool IsRepeatable(SystemCall call);
 
 /// Every fault that `call` can meet.
 std::vector<Fault> FaultsOf(SystemCall call);

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "ChildProcess.h"
 #include "DescriptorTable.h"
 #include "FailEachSystemCall.h"
 #include "FileContent.h"
@@ -127,6 +128,23 @@ TEST_F(ChannelFileFaultsTest, FileThatTheHostHasClosed) {
   EXPECT_THAT(FailEachSystemCall(
                   prepare, [&] { WriteLine("line"); }, check),
               ElementsAre("open", "close", "fstat", "fcntl", "write", "getrlimit"));
+}
+
+// Asking where a relative name stands fails, too, outside the calls that can be made to fail.
+TEST_F(ChannelFileFaultsTest, RelativeNameWhereTheWorkingDirectoryIsGone) {
+  const auto open = [&] {
+    const std::string gone = directory_ / "gone";
+    std::filesystem::create_directory(gone);
+    std::filesystem::current_path(gone);
+    std::filesystem::remove(gone);
+    Prepare();
+    Open("relative");
+    EXPECT_FALSE(opened_);
+    EXPECT_EQ(errno, ENOENT);
+    EXPECT_EQ(WriteLine("next"), 0);
+    EXPECT_EQ(stream_.Drain(), "next\n");
+  };
+  EXPECT_EQ(ChildProcess::Run(open), "exited with 0");
 }
 
 }  // namespace

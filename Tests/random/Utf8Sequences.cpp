@@ -5,10 +5,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "JsonText.h"
+#include "StrictJson.h"
 #include "TextModel.h"
 #include "Utf8.h"
 
@@ -24,6 +26,16 @@ bool SameQuoted(std::string_view text) {
   char out[64];
   const char* const end = JsonText::WriteString(out, text);
   return std::string_view(out, static_cast<std::size_t>(end - out)) == Oracle::Quoted(text);
+}
+
+/// The text as it stands in JSON that is read: also what ends a string, or escapes, or must not be.
+bool SameParsed(std::string_view text) {
+  const std::string quoted = '"' + std::string(text) + '"';
+  char out[64];
+  const char* const end = JsonText::WriteCompacted(out, quoted);
+  const std::optional<std::string> expected = Oracle::Compacted(quoted);
+  return end == nullptr ? !expected
+                        : expected == std::string(out, static_cast<std::size_t>(end - out));
 }
 
 /// Calls `same` with all texts of `length` bytes whose first byte is at least `least`; false at the
@@ -52,8 +64,8 @@ int main() {
     same = same && AllSame(length, 0, SameFirstPart);
   }
   for (int length = 1; length <= 2; ++length) {
-    same = same && AllSame(length, 0, SameQuoted);
+    same = same && AllSame(length, 0, SameQuoted) && AllSame(length, 0, SameParsed);
   }
-  same = same && AllSame(3, 0xE0, SameQuoted);
+  same = same && AllSame(3, 0xE0, SameQuoted) && AllSame(3, 0xC0, SameParsed);
   return same ? 0 : 1;
 }

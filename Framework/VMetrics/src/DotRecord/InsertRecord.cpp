@@ -14,11 +14,11 @@ namespace {
 /// is the process's last word, but not destroyed: exit handlers older than that event come later.
 DotRecordManager& TheManager() {
   alignas(DotRecordManager) static unsigned char room[sizeof(DotRecordManager)];
-  static DotRecordManager* const manager = [] {
+  static DotRecordManager& manager = []() -> DotRecordManager& {
     static_cast<void>(std::atexit([] { TheManager().ResourceClear(); }));
-    return new (room) DotRecordManager;
+    return *new (room) DotRecordManager;
   }();
-  return *manager;
+  return manager;
 }
 
 }  // namespace

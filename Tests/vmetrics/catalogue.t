@@ -334,6 +334,11 @@ has no name, and what would not go into a table as it is:
   {"eventId":"viewer_\u001b[2Jopened","type":"json","name":"opened","private":"0"}
   ]
 
+A name that is too wide for any column leaves the others in theirs:
+
+  $ printf '302645266;int;n%060d;0\n' 1 >wide.def
+  $ vmetrics catalogue --definitions wide.def --group display --side server --name n --type int
+
 Definitions from standard input, from several files, from a compressed one, with a byte order mark:
 
   $ gzip <viewer.def | vmetrics catalogue --definitions - --name myMetric --format csv

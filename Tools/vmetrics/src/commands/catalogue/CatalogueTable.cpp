@@ -2,8 +2,9 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <iterator>
 #include <string>
-#include <utility>
+#include <vector>
 
 #include "MetricId.h"
 #include "Terminal.h"
@@ -14,29 +15,31 @@ namespace vmetrics {
 
 namespace {
 
-struct Column {
-  Column(std::string columnHeading, std::vector<std::string> columnCells)
-      : heading(std::move(columnHeading)), cells(std::move(columnCells)), width(heading.size()) {
-    for (const std::string& cell : cells) {
-      width = std::max(width, WidthOf(cell));
-    }
-  }
+/// Whether a column only repeats what the ID says.
+enum class Says { Anew, Again };
 
+struct Column {
   std::string heading;
+  Says says;
   std::vector<std::string> cells;
   std::size_t width;
 };
 
 using Columns = std::vector<Column>;
 
+/// Wider cells widen no column, lest one odd name fills all lines with blanks; they stand out of
+/// it.
+constexpr std::size_t kWidest = 60;
+
 template <typename CellOf>
-Column MakeColumn(const char* heading, const CatalogueRows& rows, CellOf cellOf) {
-  std::vector<std::string> cells;
-  cells.reserve(rows.size());
+Column MakeColumn(const char* heading, Says says, const CatalogueRows& rows, CellOf cellOf) {
+  Column column = {heading, says, {}, WidthOf(heading)};
   for (const CatalogueRow& row : rows) {
-    cells.push_back(Printable(cellOf(row)));
+    column.cells.push_back(Printable(cellOf(row)));
+    const std::size_t width = WidthOf(column.cells.back());
+    column.width = std::max(column.width, width <= kWidest ? width : 0);
   }
-  return Column(heading, std::move(cells));
+  return column;
 }
 
 constexpr std::size_t kGap = 2;
@@ -53,7 +56,8 @@ template <typename CellOf>
 std::string LineOf(const Columns& columns, CellOf cellOf) {
   std::string line;
   for (const Column& column : columns) {
-    line += Fitted(cellOf(column), column.width + kGap);
+    const std::string_view cell = cellOf(column);
+    line += Fitted(cell, std::max(column.width, WidthOf(cell)) + kGap);
   }
   return line.substr(0, line.find_last_not_of(' ') + 1);
 }
@@ -81,45 +85,41 @@ std::string SideCell(const CatalogueRow& row) {
   return name.empty() ? HexadecimalByte(side) : std::string(name);
 }
 
-/// The number of the last column that only repeats a part of the first; 0 if there is none.
-std::size_t LastRepeating(const Columns& columns) {
-  for (std::size_t at = columns.size(); at-- > 0;) {
-    const std::string& heading = columns[at].heading;
-    if (heading == "GROUP" || heading == "DECIMAL" || heading == "SIDE") {
-      return at;
-    }
-  }
-  return 0;
-}
-
+/// Leaves out columns that repeat what the ID says, the last one first, until the table fits on the
+/// terminal.
 void LeaveOutToFit(Columns& columns) {
+  const auto repeats = [](const Column& column) { return column.says == Says::Again; };
   while (isatty(STDOUT_FILENO) == 1 && WidthOfTable(columns) > OutputWidth()) {
-    const std::size_t at = LastRepeating(columns);
-    if (at == 0) {
+    const auto last = std::find_if(columns.rbegin(), columns.rend(), repeats);
+    if (last == columns.rend()) {
       return;
     }
-    columns.erase(columns.begin() + static_cast<std::ptrdiff_t>(at));
+    columns.erase(std::next(last).base());
   }
 }
 
 void WriteNumeric(const CatalogueRows& rows) {
   Columns columns = {
-      MakeColumn("ID", rows, [](const CatalogueRow& row) { return HexadecimalId(*row.id); }),
-      MakeColumn("SIDE", rows, SideCell),
-      MakeColumn("DECIMAL", rows, [](const CatalogueRow& row) { return fmt::to_string(*row.id); }),
-      MakeColumn("TYPE", rows, [](const CatalogueRow& row) { return row.Type(); }),
-      MakeColumn("PRIVATE", rows, PrivateMark),
-      MakeColumn("NAME", rows, [](const CatalogueRow& row) { return row.Name(); }),
-      MakeColumn("GROUP", rows, GroupCell)};
+      MakeColumn("ID", Says::Anew, rows,
+                 [](const CatalogueRow& row) { return HexadecimalId(*row.id); }),
+      MakeColumn("SIDE", Says::Again, rows, SideCell),
+      MakeColumn("DECIMAL", Says::Again, rows,
+                 [](const CatalogueRow& row) { return fmt::to_string(*row.id); }),
+      MakeColumn("TYPE", Says::Anew, rows, [](const CatalogueRow& row) { return row.Type(); }),
+      MakeColumn("PRIVATE", Says::Anew, rows, PrivateMark),
+      MakeColumn("NAME", Says::Anew, rows, [](const CatalogueRow& row) { return row.Name(); }),
+      MakeColumn("GROUP", Says::Again, rows, GroupCell)};
   LeaveOutToFit(columns);
   WriteColumns(columns);
 }
 
 void WriteEvents(const CatalogueRows& rows) {
-  WriteColumns({MakeColumn("EVENT ID", rows, [](const CatalogueRow& row) { return row.eventId; }),
-                MakeColumn("TYPE", rows, [](const CatalogueRow& row) { return row.Type(); }),
-                MakeColumn("PRIVATE", rows, PrivateMark),
-                MakeColumn("NAME", rows, [](const CatalogueRow& row) { return row.Name(); })});
+  WriteColumns(
+      {MakeColumn("EVENT ID", Says::Anew, rows,
+                  [](const CatalogueRow& row) { return row.eventId; }),
+       MakeColumn("TYPE", Says::Anew, rows, [](const CatalogueRow& row) { return row.Type(); }),
+       MakeColumn("PRIVATE", Says::Anew, rows, PrivateMark),
+       MakeColumn("NAME", Says::Anew, rows, [](const CatalogueRow& row) { return row.Name(); })});
 }
 
 }  // namespace

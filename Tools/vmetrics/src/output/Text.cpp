@@ -41,8 +41,8 @@ Character FirstOf(std::string_view text) {
 
 /// Whether a terminal obeys the character.
 bool IsControl(std::uint32_t code) {
-  return code < 0x20 || (code >= 0x7F && code < 0xA0) || code == 0x200E || code == 0x200F ||
-         code == 0x2028 || code == 0x2029 || (code >= 0x202A && code <= 0x202E) ||
+  return code < 0x20 || (code >= 0x7F && code < 0xA0) || code == 0x61C || code == 0x200E ||
+         code == 0x200F || code == 0x2028 || code == 0x2029 || (code >= 0x202A && code <= 0x202E) ||
          (code >= 0x2066 && code <= 0x2069);
 }
 

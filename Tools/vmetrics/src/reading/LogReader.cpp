@@ -3,12 +3,14 @@
 namespace vmetrics {
 
 void LogReader::Read(const std::vector<std::string>& files) {
+  std::size_t fileNumber = 0;
   for (const std::string& file : files.empty() ? std::vector<std::string>{"-"} : files) {
     try {
-      ReadFile(file);
+      ReadFile(file, fileNumber);
     } catch (const InputError& error) {
       hooks_.unreadable(error);
     }
+    ++fileNumber;
   }
 }
 
@@ -18,7 +20,7 @@ LineRecovery::Counts LogReader::Counts() const {
   return counts;
 }
 
-void LogReader::ReadFile(const std::string& file) {
+void LogReader::ReadFile(const std::string& file, std::size_t fileNumber) {
   Input input(file);
   LineCutter cutter;
   std::uint64_t number = 0;
@@ -28,13 +30,13 @@ void LogReader::ReadFile(const std::string& file) {
       ++overlong_;
       ++number;
       if (hooks_.overlong) {
-        hooks_.overlong({input.Name(), number});
+        hooks_.overlong({input.Name(), number, fileNumber});
       }
     }
   };
   const auto take = [&](std::string_view line) {
     tellOverlong();
-    TakeLine({input.Name(), ++number}, line);
+    TakeLine({input.Name(), ++number, fileNumber}, line);
   };
   try {
     for (std::string_view piece = input.Read(); !piece.empty(); piece = input.Read()) {

@@ -18,8 +18,9 @@ namespace vmetrics {
 
 /// Where in which file a line stands.
 struct LinePlace {
-  const std::string& file;  ///< Its name as people read it.
-  std::uint64_t number;     ///< From 1.
+  const std::string& file;     ///< Its name as people read it.
+  std::uint64_t number;        ///< From 1.
+  std::size_t fileNumber = 0;  ///< Which of the files that are read it is, from 0.
 };
 
 class LogReader {
@@ -48,7 +49,7 @@ class LogReader {
   std::uint64_t Overlong() const { return overlong_; }
 
  private:
-  void ReadFile(const std::string& file);
+  void ReadFile(const std::string& file, std::size_t fileNumber);
   void TakeLine(const LinePlace& place, std::string_view line);
 
   const Hooks hooks_;

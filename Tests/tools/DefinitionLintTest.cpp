@@ -18,7 +18,7 @@ class DefinitionLintTest : public testing::Test {
  protected:
   /// The rules that the next line of a file breaks.
   std::vector<std::string> Rules(std::string_view line,
-                                 DefinitionKind kind = DefinitionKind::Numeric) {
+                                 DefinitionKind kind = DefinitionKind::kNumeric) {
     std::vector<std::string> rules;
     for (const Finding& finding : linter_.Lint(kind, {file_, ++number_}, line).findings) {
       rules.emplace_back(finding.rule);
@@ -44,11 +44,11 @@ TEST_F(DefinitionLintTest, FindsNothingWrongWithWhatIsBuiltIn) {
   DefinitionLinter linter;
   for (const auto& [id, entry] : catalogue_.Numeric()) {
     const std::string line = LineOf(std::to_string(id), entry);
-    EXPECT_THAT(linter.Lint(DefinitionKind::Numeric, {"", 1}, line).findings, IsEmpty()) << line;
+    EXPECT_THAT(linter.Lint(DefinitionKind::kNumeric, {"", 1}, line).findings, IsEmpty()) << line;
   }
   for (const auto& [eventId, entry] : catalogue_.Events()) {
     const std::string line = LineOf(eventId, entry);
-    EXPECT_THAT(linter.Lint(DefinitionKind::Event, {"", 1}, line).findings, IsEmpty()) << line;
+    EXPECT_THAT(linter.Lint(DefinitionKind::kEvent, {"", 1}, line).findings, IsEmpty()) << line;
   }
   EXPECT_EQ(VMetrics::GetMetricsMap(), catalogue_.Numeric());
   EXPECT_EQ(VMetrics::GetMetricsStringMap(), catalogue_.Events());
@@ -63,19 +63,19 @@ TEST_F(DefinitionLintTest, AllowsTheSameNameOnTheOtherSideAlone) {
 }
 
 TEST_F(DefinitionLintTest, TellsEventsWithOneNameApartFromNumericMetrics) {
-  EXPECT_THAT(Rules("one;int;displayFPS;0", DefinitionKind::Event), IsEmpty());
-  EXPECT_THAT(Rules("two;int;displayFPS;0", DefinitionKind::Event), ElementsAre("name-clash"));
+  EXPECT_THAT(Rules("one;int;displayFPS;0", DefinitionKind::kEvent), IsEmpty());
+  EXPECT_THAT(Rules("two;int;displayFPS;0", DefinitionKind::kEvent), ElementsAre("name-clash"));
 }
 
 TEST_F(DefinitionLintTest, KnowsAByteOrderMarkInTheFirstLineAlone) {
-  EXPECT_THAT(Rules("\xEF\xBB\xBFone;int;a;0", DefinitionKind::Event),
+  EXPECT_THAT(Rules("\xEF\xBB\xBFone;int;a;0", DefinitionKind::kEvent),
               ElementsAre("byte-order-mark"));
-  EXPECT_THAT(Rules("\xEF\xBB\xBFtwo;int;b;0", DefinitionKind::Event), IsEmpty());
+  EXPECT_THAT(Rules("\xEF\xBB\xBFtwo;int;b;0", DefinitionKind::kEvent), IsEmpty());
 }
 
 TEST_F(DefinitionLintTest, AllowsAnEventIdThatARecordHasRoomFor) {
-  EXPECT_THAT(Rules(std::string(128, 'a') + ";int;a;0", DefinitionKind::Event), IsEmpty());
-  EXPECT_THAT(Rules(std::string(129, 'a') + ";int;b;0", DefinitionKind::Event),
+  EXPECT_THAT(Rules(std::string(128, 'a') + ";int;a;0", DefinitionKind::kEvent), IsEmpty());
+  EXPECT_THAT(Rules(std::string(129, 'a') + ";int;b;0", DefinitionKind::kEvent),
               ElementsAre("event-id-length"));
 }
 

@@ -17,7 +17,7 @@ class DefinitionTextTest : public testing::Test {
   const CatalogueKeeper catalogue_;
 };
 
-std::string Refusal(std::string_view text) { return RefusalOf(DefinitionKind::Numeric, text); }
+std::string Refusal(std::string_view text) { return RefusalOf(DefinitionKind::kNumeric, text); }
 
 TEST_F(DefinitionTextTest, ReadsWhatTheLibraryStores) {
   for (const std::string_view text :
@@ -25,7 +25,7 @@ TEST_F(DefinitionTextTest, ReadsWhatTheLibraryStores) {
         "-5;;;i;a;0"sv, "4294967302;int;a;0"sv, "99999999999999999999;int;a;0"sv, "8;int;a;0\0;1"sv,
         "9;int;a;\r"sv, "2147483658;int;a;0"sv}) {
     const DefinitionFields fields(text);
-    ASSERT_EQ(RegisterDefinition(DefinitionKind::Numeric, text), VMETRICS_OK) << text;
+    ASSERT_EQ(RegisterDefinition(DefinitionKind::kNumeric, text), VMETRICS_OK) << text;
     EXPECT_THAT(VMetrics::GetMetricsMap().at(DecimalId(fields.id).key),
                 ElementsAre(std::string(fields.type), std::string(fields.name),
                             std::string(fields.privateFlag)))
@@ -36,7 +36,7 @@ TEST_F(DefinitionTextTest, ReadsWhatTheLibraryStores) {
 TEST_F(DefinitionTextTest, ReadsTheEventIdThatTheLibraryStores) {
   for (const std::string_view text : {"0;json;x;0"sv, ";;a b ;json;x;0"sv, "\xFF;json;x;0"sv}) {
     const DefinitionFields fields(text);
-    ASSERT_EQ(RegisterDefinition(DefinitionKind::Event, text), VMETRICS_OK) << text;
+    ASSERT_EQ(RegisterDefinition(DefinitionKind::kEvent, text), VMETRICS_OK) << text;
     EXPECT_THAT(VMetrics::GetMetricsStringMap().at(std::string(fields.id)),
                 ElementsAre("json", "x", "0"))
         << text;
@@ -44,7 +44,7 @@ TEST_F(DefinitionTextTest, ReadsTheEventIdThatTheLibraryStores) {
 }
 
 TEST_F(DefinitionTextTest, FindsAReasonForWhatIsRefusedAndForNothingElse) {
-  for (const DefinitionKind kind : {DefinitionKind::Numeric, DefinitionKind::Event}) {
+  for (const DefinitionKind kind : {DefinitionKind::kNumeric, DefinitionKind::kEvent}) {
     for (const std::string_view text :
          {""sv, ";"sv, ";;;;"sv, "1"sv, "1;int"sv, "1;int;a"sv, "1;int;;0"sv, "1;int;a;0"sv,
           "1;int;b;0"sv, "0;int;a;0"sv, "0x10;int;a;0"sv, "a;int;a;0"sv, " ;int;a;0"sv,
@@ -68,7 +68,7 @@ TEST_F(DefinitionTextTest, SaysWhyADefinitionIsRefused) {
               StrEq("of the ID 4294967296 only the low 32 bits count, which are 0"));
   EXPECT_THAT(Refusal("302645249;int;a;0"),
               StrEq("the ID 302645249 (0x120A0001) is taken by displayFPS (int)"));
-  EXPECT_THAT(RefusalOf(DefinitionKind::Event, "nox_user_connect;int;a;0"),
+  EXPECT_THAT(RefusalOf(DefinitionKind::kEvent, "nox_user_connect;int;a;0"),
               StrEq("the event ID nox_user_connect is taken by vmConnect (json)"));
 }
 

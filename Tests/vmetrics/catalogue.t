@@ -338,6 +338,18 @@ A name that is too wide for any column leaves the others in theirs:
 
   $ printf '302645266;int;n%060d;0\n' 1 >wide.def
   $ vmetrics catalogue --definitions wide.def --group display --side server --name n --type int
+  ID          SIDE    DECIMAL    TYPE  PRIVATE  NAME                           GROUP
+  0x120A0000  server  302645248  int            displayOSRenderingDelay        display
+  0x120A0003  server  302645251  int            displayEncodingDelay           display
+  0x120A0004  server  302645252  int            displayFlowControl             display
+  0x120A000A  server  302645258  int            displayNumberOfVideoEncoders   display
+  0x120A000B  server  302645259  int            displayEnableFullScreenVideo   display
+  0x120A000C  server  302645260  int            displayEnable10Bits            display
+  0x120A000D  server  302645261  int            displayEnableYuv444            display
+  0x120A000E  server  302645262  int            displayEnableColorType         display
+  0x120A000F  server  302645263  int            displayEnableChangeResolution  display
+  0x120A0010  server  302645264  int            displayEnableAdaptive          display
+  0x120A0012  server  302645266  int            n000000000000000000000000000000000000000000000000000000000001  display
 
 Definitions from standard input, from several files, from a compressed one, with a byte order mark:
 

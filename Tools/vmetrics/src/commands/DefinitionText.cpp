@@ -82,8 +82,9 @@ DecimalId::DecimalId(std::string_view text) {
 
 int RegisterDefinition(DefinitionKind kind, std::string_view text) {
   std::string writable(text);
-  return kind == DefinitionKind::Numeric ? VMetrics::RegisterMetricsDataType(writable.data())
-                                         : VMetrics::RegisterMetricsStringDataType(writable.data());
+  return kind == DefinitionKind::kNumeric
+             ? VMetrics::RegisterMetricsDataType(writable.data())
+             : VMetrics::RegisterMetricsStringDataType(writable.data());
 }
 
 std::string RefusalOf(DefinitionKind kind, std::string_view text) {
@@ -92,7 +93,7 @@ std::string RefusalOf(DefinitionKind kind, std::string_view text) {
     return fmt::format("{} of the four fields \"ID;type;name;private\", empty ones not counted",
                        fields.count);
   }
-  return kind == DefinitionKind::Numeric ? NumericRefusal(fields) : EventRefusal(fields);
+  return kind == DefinitionKind::kNumeric ? NumericRefusal(fields) : EventRefusal(fields);
 }
 
 }  // namespace vmetrics

@@ -13,7 +13,7 @@ namespace vmetrics {
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// Which of the two catalogues a definition adds to.
-enum class DefinitionKind { Numeric, Event };
+enum class DefinitionKind { kNumeric, kEvent };
 
 /// The fields of a definition, pointing into its text.
 struct DefinitionFields {

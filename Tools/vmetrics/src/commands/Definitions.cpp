@@ -96,10 +96,10 @@ int Definitions::Conclude(int status) const { return hasRefused_ ? kTrouble : st
 std::vector<DefinitionFile> Definitions::Files() const {
   std::vector<DefinitionFile> files;
   for (const std::string& name : numeric_) {
-    files.push_back({DefinitionKind::Numeric, name});
+    files.push_back({DefinitionKind::kNumeric, name});
   }
   for (const std::string& name : events_) {
-    files.push_back({DefinitionKind::Event, name});
+    files.push_back({DefinitionKind::kEvent, name});
   }
   return files;
 }

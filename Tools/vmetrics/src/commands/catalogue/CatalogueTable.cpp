@@ -16,7 +16,7 @@ namespace vmetrics {
 namespace {
 
 /// Whether a column only repeats what the ID says.
-enum class Says { Anew, Again };
+enum class Says { kAnew, kAgain };
 
 struct Column {
   std::string heading;
@@ -88,7 +88,7 @@ std::string SideCell(const CatalogueRow& row) {
 /// Leaves out columns that repeat what the ID says, the last one first, until the table fits on the
 /// terminal.
 void LeaveOutToFit(Columns& columns) {
-  const auto repeats = [](const Column& column) { return column.says == Says::Again; };
+  const auto repeats = [](const Column& column) { return column.says == Says::kAgain; };
   while (isatty(STDOUT_FILENO) == 1 && WidthOfTable(columns) > OutputWidth()) {
     const auto last = std::find_if(columns.rbegin(), columns.rend(), repeats);
     if (last == columns.rend()) {
@@ -100,26 +100,26 @@ void LeaveOutToFit(Columns& columns) {
 
 void WriteNumeric(const CatalogueRows& rows) {
   Columns columns = {
-      MakeColumn("ID", Says::Anew, rows,
+      MakeColumn("ID", Says::kAnew, rows,
                  [](const CatalogueRow& row) { return HexadecimalId(*row.id); }),
-      MakeColumn("SIDE", Says::Again, rows, SideCell),
-      MakeColumn("DECIMAL", Says::Again, rows,
+      MakeColumn("SIDE", Says::kAgain, rows, SideCell),
+      MakeColumn("DECIMAL", Says::kAgain, rows,
                  [](const CatalogueRow& row) { return fmt::to_string(*row.id); }),
-      MakeColumn("TYPE", Says::Anew, rows, [](const CatalogueRow& row) { return row.Type(); }),
-      MakeColumn("PRIVATE", Says::Anew, rows, PrivateMark),
-      MakeColumn("NAME", Says::Anew, rows, [](const CatalogueRow& row) { return row.Name(); }),
-      MakeColumn("GROUP", Says::Again, rows, GroupCell)};
+      MakeColumn("TYPE", Says::kAnew, rows, [](const CatalogueRow& row) { return row.Type(); }),
+      MakeColumn("PRIVATE", Says::kAnew, rows, PrivateMark),
+      MakeColumn("NAME", Says::kAnew, rows, [](const CatalogueRow& row) { return row.Name(); }),
+      MakeColumn("GROUP", Says::kAgain, rows, GroupCell)};
   LeaveOutToFit(columns);
   WriteColumns(columns);
 }
 
 void WriteEvents(const CatalogueRows& rows) {
   WriteColumns(
-      {MakeColumn("EVENT ID", Says::Anew, rows,
+      {MakeColumn("EVENT ID", Says::kAnew, rows,
                   [](const CatalogueRow& row) { return row.eventId; }),
-       MakeColumn("TYPE", Says::Anew, rows, [](const CatalogueRow& row) { return row.Type(); }),
-       MakeColumn("PRIVATE", Says::Anew, rows, PrivateMark),
-       MakeColumn("NAME", Says::Anew, rows, [](const CatalogueRow& row) { return row.Name(); })});
+       MakeColumn("TYPE", Says::kAnew, rows, [](const CatalogueRow& row) { return row.Type(); }),
+       MakeColumn("PRIVATE", Says::kAnew, rows, PrivateMark),
+       MakeColumn("NAME", Says::kAnew, rows, [](const CatalogueRow& row) { return row.Name(); })});
 }
 
 }  // namespace

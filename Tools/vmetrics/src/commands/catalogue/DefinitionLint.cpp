@@ -58,7 +58,7 @@ std::string DefinitionLinter::Refusal(DefinitionKind kind, std::string_view line
   if (refusal.empty() || fields.count < 4) {
     return refusal;
   }
-  if (kind == DefinitionKind::Event) {
+  if (kind == DefinitionKind::kEvent) {
     return refusal + OriginOf(std::string(fields.id), eventPlaces_);
   }
   const int id = DecimalId(fields.id).key;
@@ -69,7 +69,7 @@ void DefinitionLinter::LookAtStored(DefinitionKind kind, const LinePlace& place,
                                     std::string_view id, Verdict& verdict) {
   const std::string where = fmt::format("{}:{}", Printable(place.file), place.number);
   std::string clash;
-  if (kind == DefinitionKind::Numeric) {
+  if (kind == DefinitionKind::kNumeric) {
     verdict.id = DecimalId(id).key;
     verdict.eventId = fmt::to_string(verdict.id);
     verdict.entry = &VMetrics::GetMetricsMap().at(verdict.id);

@@ -75,7 +75,7 @@ class LineRules {
 
   void CheckFields() {
     const std::string_view flag = WithoutReturn(fields_.privateFlag);
-    CheckBlanks("ID", fields_.id, kind_ == DefinitionKind::Numeric);
+    CheckBlanks("ID", fields_.id, kind_ == DefinitionKind::kNumeric);
     CheckBlanks("type", fields_.type, false);
     CheckBlanks("name", fields_.name, false);
     CheckBlanks("flag", flag, false);
@@ -96,7 +96,7 @@ class LineRules {
   }
 
   void CheckId() {
-    if (kind_ == DefinitionKind::Numeric) {
+    if (kind_ == DefinitionKind::kNumeric) {
       std::vector<Finding> inId = FindingsInId(fields_.id);
       std::move(inId.begin(), inId.end(), std::back_inserter(findings_));
     } else if (fields_.id.size() > kLongestEventId) {

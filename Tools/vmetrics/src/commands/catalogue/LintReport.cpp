@@ -18,7 +18,7 @@ void WriteLine(const LinePlace& place, Style style, std::string_view what, std::
 }
 
 std::string StoredText(DefinitionKind kind, const Verdict& verdict) {
-  const std::string id = kind == DefinitionKind::Numeric
+  const std::string id = kind == DefinitionKind::kNumeric
                              ? fmt::format("{} ({})", verdict.eventId, HexadecimalId(verdict.id))
                              : fmt::format("\"{}\"", verdict.eventId);
   return Printable(fmt::format("ID {}, type \"{}\", name \"{}\", private \"{}\"", id,
@@ -28,7 +28,7 @@ std::string StoredText(DefinitionKind kind, const Verdict& verdict) {
 VJson::Value StoredObject(DefinitionKind kind, const Verdict& verdict) {
   VJson::Value stored;
   stored.AddJsonValue("eventId", verdict.eventId);
-  if (kind == DefinitionKind::Numeric) {
+  if (kind == DefinitionKind::kNumeric) {
     stored.AddJsonValue("hexadecimal", HexadecimalId(verdict.id));
   }
   stored.AddJsonValue("type", verdict.entry->at(0));

@@ -97,5 +97,11 @@ TEST(AlignedRightTest, TextIsFilledUpInFront) {
   EXPECT_EQ(AlignedRight("12345", 4), "12345");
 }
 
+TEST(CountedTest, OneIsSingular) {
+  EXPECT_EQ(Counted(0, "line"), "0 lines");
+  EXPECT_EQ(Counted(1, "line"), "1 line");
+  EXPECT_EQ(Counted(2, "line"), "2 lines");
+}
+
 }  // namespace
 }  // namespace vmetrics

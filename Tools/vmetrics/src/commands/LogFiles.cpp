@@ -8,14 +8,6 @@
 
 namespace vmetrics {
 
-namespace {
-
-std::string Counted(std::uint64_t count, std::string_view thing) {
-  return fmt::format("{} {}{}", count, thing, count == 1 ? "" : "s");
-}
-
-}  // namespace
-
 void LogFiles::AddTo(CLI::App& command) {
   command
       .add_option("file", names_,

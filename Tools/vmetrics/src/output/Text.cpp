@@ -108,4 +108,8 @@ std::string AlignedRight(std::string_view text, std::size_t width) {
   return fmt::format("{:>{}}", text, width);
 }
 
+std::string Counted(std::uint64_t count, std::string_view thing) {
+  return fmt::format("{} {}{}", count, thing, count == 1 ? "" : "s");
+}
+
 }  // namespace vmetrics

@@ -3,6 +3,7 @@
 #define VMETRICS_TOOL_TEXT_H_
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,9 @@ std::string Fitted(std::string_view text, std::size_t width);
 
 /// `text` with blanks in front of it up to `width` columns.
 std::string AlignedRight(std::string_view text, std::size_t width);
+
+/// "1 line", "2 lines".
+std::string Counted(std::uint64_t count, std::string_view thing);
 
 }  // namespace vmetrics
 

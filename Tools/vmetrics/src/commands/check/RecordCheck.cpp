@@ -1,0 +1,131 @@
+#include "RecordCheck.h"
+
+#include <fmt/format.h>
+
+#include <cstdint>
+#include <optional>
+
+#include "MetricLookup.h"
+#include "NameList.h"
+#include "StepTimes.h"
+
+namespace vmetrics {
+
+namespace {
+
+const ObjectRules kNumericRecord{"a numeric record",
+                                 {{"eventId", Want::NumberText},
+                                  {"timestamp", Want::Uint64},
+                                  {"moduleId", Want::Uint64},
+                                  {"terminalId", Want::NumberText},
+                                  {"args", Want::Anything, false}}};
+constexpr std::size_t kModuleId = 2;
+
+const ObjectRules kEvent{"an event",
+                         {{"eventId", Want::Text},
+                          {"timestamp", Want::Uint64},
+                          {"terminalId", Want::NumberText},
+                          {"type", Want::NumberText},
+                          {"transactionId", Want::Text},
+                          {"businessType", Want::Text},
+                          {"serviceName", Want::Text},
+                          {"userName", Want::Text, true, true},
+                          {"args", Want::Anything, false}}};
+constexpr std::size_t kEventId = 0;
+
+/// The reporter's event that the library leaves to the host to register.
+constexpr std::string_view kUnregistered = "nox_user_operation";
+
+/// The event of a client's connecting, whose args are those of a step.
+constexpr std::string_view kConnecting = "nox_user_connect";
+
+enum class RecordKind { Numeric, Event, Step, None };
+
+/// Tells the kinds apart by a member that only one of them has, or else by what is left.
+RecordKind KindOf(const LogEntry& entry) {
+  for (const Member& member : entry.members) {
+    if (member.key == "moduleId") {
+      return RecordKind::Numeric;
+    }
+    if (member.key == "spanId" || member.key == "parentSpanId") {
+      return RecordKind::Step;
+    }
+    if (member.key == "businessType" || member.key == "serviceName" || member.key == "userName") {
+      return RecordKind::Event;
+    }
+  }
+  if (entry.FindInArgs("stepName") != nullptr && entry.FindInArgs("errorCode") != nullptr) {
+    return RecordKind::Step;
+  }
+  if (NumericId(entry.Text("eventId"))) {
+    return RecordKind::Numeric;
+  }
+  return entry.Find("eventId") != nullptr ? RecordKind::Event : RecordKind::None;
+}
+
+std::uint64_t ModuleOf(int id) { return static_cast<std::uint32_t>(id) >> 16U; }
+
+}  // namespace
+
+void RecordCheck::Check(const Place& place, const LogEntry& entry) {
+  switch (KindOf(entry)) {
+    case RecordKind::Numeric:
+      CheckNumeric(place, entry);
+      break;
+    case RecordKind::Event:
+      CheckEvent(place, entry);
+      break;
+    case RecordKind::Step:
+      steps_.Check(place, entry);
+      break;
+    case RecordKind::None:
+      findings_.Add(FindingKind::NoRecord, place, "a JSON object, but no record of the library");
+      break;
+  }
+}
+
+void RecordCheck::CheckNumeric(const Place& place, const LogEntry& entry) {
+  const auto& found = members_.Check(place, kNumericRecord, entry.members);
+  if (found[kEventId] == nullptr) {
+    return;
+  }
+  const std::string_view eventId = found[kEventId]->text;
+  const int id = NumericId(eventId).value_or(0);
+  if (found[kModuleId] != nullptr && found[kModuleId]->Unsigned() != ModuleOf(id)) {
+    findings_.Add(FindingKind::Member, place,
+                  fmt::format("moduleId is {}, but metric {} belongs to module {}",
+                              found[kModuleId]->text, eventId, ModuleOf(id)));
+  }
+  if (const MetricEntry* metric = FindNumericMetric(id)) {
+    args_.Check(place, eventId, *metric, entry);
+    return;
+  }
+  findings_.Add(FindingKind::UnknownId, place,
+                fmt::format("metric {} is not in the catalogue", eventId));
+  args_.CheckAny(place, eventId, entry);
+}
+
+void RecordCheck::CheckEvent(const Place& place, const LogEntry& entry) {
+  const auto& found = members_.Check(place, kEvent, entry.members);
+  if (found[kEventId] == nullptr) {
+    return;
+  }
+  const std::string_view eventId = found[kEventId]->text;
+  if (eventId == kConnecting) {
+    CheckTimes(
+        place,
+        {entry.FindInArgs("startTime"), entry.FindInArgs("endTime"), entry.FindInArgs("usedTime")},
+        findings_);
+  }
+  if (const MetricEntry* metric = FindEventMetric(eventId)) {
+    args_.Check(place, eventId, *metric, entry);
+    return;
+  }
+  if (eventId != kUnregistered) {
+    findings_.Add(FindingKind::UnknownId, place,
+                  fmt::format("event \"{}\" is not in the catalogue", Shortened(eventId)));
+  }
+  args_.CheckAny(place, eventId, entry);
+}
+
+}  // namespace vmetrics

@@ -1,0 +1,34 @@
+#include "StepTimes.h"
+
+#include <fmt/format.h>
+
+#include <cstdint>
+#include <optional>
+
+namespace vmetrics {
+
+namespace {
+
+std::optional<std::uint64_t> TimeOf(const Member* member) {
+  return member != nullptr ? member->Unsigned() : std::nullopt;
+}
+
+}  // namespace
+
+void CheckTimes(const Place& place, const StepTimes& times, Findings& findings) {
+  const std::optional<std::uint64_t> start = TimeOf(times.start);
+  const std::optional<std::uint64_t> end = TimeOf(times.end);
+  const std::optional<std::uint64_t> used = TimeOf(times.used);
+  if (start && end && *end < *start) {
+    findings.Add(FindingKind::Time, place,
+                 fmt::format("ends {} ms before it starts", *start - *end));
+  }
+  // Of such a step usedTime is just below 2^64: the library's subtraction is unsigned, as is this.
+  if (start && end && used && *used != *end - *start) {
+    findings.Add(
+        FindingKind::UsedTime, place,
+        fmt::format("usedTime is {}, but from start to end it is {}", *used, *end - *start));
+  }
+}
+
+}  // namespace vmetrics

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include "Operands.h"
 #include "Progress.h"
 #include "Terminal.h"
 #include "Text.h"
@@ -9,10 +10,8 @@
 namespace vmetrics {
 
 void LogFiles::AddTo(CLI::App& command) {
-  command
-      .add_option("file", names_,
-                  "Metrics logs, plain or compressed by gzip; - or none is standard input")
-      ->type_name("FILE");
+  AddOperands(command, "file", "FILE", names_,
+              "Metrics logs, plain or compressed by gzip; - or none is standard input");
 }
 
 void LogFiles::Read(LogReader::Hooks hooks) {

@@ -11,13 +11,18 @@ were not there.
   > END
   $ cat >counting <<'END'
   > #!/usr/bin/env python3
+  > """Takes the signals that are named one by one, until SIGQUIT comes and nothing after it."""
   > import signal, sys
-  > names = []
-  > for number in map(signal.Signals, map(int, sys.argv[1:])):
-  >     signal.signal(number, lambda got, frame: names.append(signal.Signals(got).name))
+  > taken = {signal.SIGQUIT, *(signal.Signals[name] for name in sys.argv[1:])}
+  > signal.pthread_sigmask(signal.SIG_BLOCK, taken)
   > print("started", flush=True)
-  > line = sys.stdin.readline()
-  > print("signals:", *names, "end")
+  > names = []
+  > while "SIGQUIT" not in names:
+  >     names.append(signal.Signals(signal.sigwaitinfo(taken).si_signo).name)
+  >     print("took", names[-1], flush=True)
+  > while more := signal.sigtimedwait(taken, 0.1):
+  >     names.append(signal.Signals(more.si_signo).name)
+  > print("in all:", *names, "end")
   > END
   $ cat >sleeping <<'END'
   > #!/bin/sh
@@ -71,13 +76,14 @@ A command that has its own way with what the terminal sends gets it once:
 
   $ "$TESTDIR/terminal" <<'END'
   > await shell>
-  > type vmetrics run --step s --metrics log -- ./counting 2 3 20
+  > type vmetrics run --step s --metrics log -- ./counting SIGINT SIGTSTP
   > await started
   > press C
-  > press \
+  > await took SIGINT
   > press Z
-  > type
-  > await signals: SIGINT SIGQUIT SIGTSTP end
+  > await took SIGTSTP
+  > press \
+  > await in all: SIGINT SIGTSTP SIGQUIT end
   > await shell>
   > END
   $ error_code
@@ -105,15 +111,16 @@ Ctrl-Z stops both, and the shell lets both go on:
   5
   $ "$TESTDIR/terminal" <<'END'
   > await shell>
-  > type vmetrics run --step s --metrics log -- ./counting 18
+  > type vmetrics run --step s --metrics log -- ./counting SIGCONT
   > await started
   > press Z
   > await Stopped
   > await shell>
   > type fg
   > await vmetrics run
-  > type
-  > await signals: SIGCONT end
+  > await took SIGCONT
+  > press \
+  > await in all: SIGCONT SIGQUIT end
   > await shell>
   > END
 

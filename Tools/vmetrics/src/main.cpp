@@ -58,8 +58,6 @@ void ComplainOfUsage(const std::exception& error) {
 int main(int argumentCount, char** arguments) {
   // Of what the library has to say here, the tool tells its user itself, in words about the input.
   VPlatformConfig::SetDiagnosticsLevel(0);
-  // A command that is run as a step has its own exit statuses; 125 is the wrapper's trouble.
-  const int trouble = IsRun(argumentCount, arguments) ? 125 : vmetrics::kTrouble;
   try {
     const int status = Run(argumentCount, arguments);
     vmetrics::FinishOutput();
@@ -71,5 +69,7 @@ int main(int argumentCount, char** arguments) {
   } catch (const std::exception& error) {
     vmetrics::Complain(error.what());
   }
-  return trouble;
+  // A command that is run as a step has exit statuses of its own; this one is left to its wrapper.
+  constexpr int kTroubleOfRun = 125;
+  return IsRun(argumentCount, arguments) ? kTroubleOfRun : vmetrics::kTrouble;
 }

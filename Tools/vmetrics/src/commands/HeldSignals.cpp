@@ -15,7 +15,7 @@ struct sigaction DefaultAction() {
 HeldSignals::HeldSignals() {
   sigset_t all;
   sigfillset(&all);
-  sigprocmask(SIG_SETMASK, &all, &maskBefore_);
+  pthread_sigmask(SIG_SETMASK, &all, &maskBefore_);
   // Where the ends of children are ignored, nobody is told how they ended.
   const struct sigaction told = DefaultAction();
   sigaction(SIGCHLD, &told, &childEndsBefore_);
@@ -43,14 +43,14 @@ void HeldSignals::Obey(int signal) const {
   sigemptyset(&let);
   sigaddset(&let, signal);
   raise(signal);
-  sigprocmask(SIG_UNBLOCK, &let, nullptr);
-  sigprocmask(SIG_BLOCK, &let, nullptr);
+  pthread_sigmask(SIG_UNBLOCK, &let, nullptr);
+  pthread_sigmask(SIG_BLOCK, &let, nullptr);
   sigaction(signal, &before, nullptr);
 }
 
 void HeldSignals::Release() const {
   sigaction(SIGCHLD, &childEndsBefore_, nullptr);
-  sigprocmask(SIG_SETMASK, &maskBefore_, nullptr);
+  pthread_sigmask(SIG_SETMASK, &maskBefore_, nullptr);
 }
 
 }  // namespace vmetrics

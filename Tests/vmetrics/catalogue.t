@@ -326,6 +326,11 @@ has no name, and what would not go into a table as it is:
   | ID | Decimal | Type | Name | Private |
   |---|---|---|---|---|
   | 0x40010001 | 1073807361 | string | a\|b "c", \*d\* | 2 |
+  $ vmetrics catalogue --definitions viewer.def --format markdown | grep '^#' | tail -n 4
+  ### 0x36: RTSA transport
+  ### 0x40
+  ### 0xFF
+  ## Event IDs: 13 metrics
   $ vmetrics catalogue --event-definitions events.def --name opened
   EVENT ID                TYPE  PRIVATE  NAME
   viewer_\u001b[2Jopened  json           opened

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Command.h"
@@ -20,6 +21,14 @@ namespace vmetrics {
 
 namespace {
 
+void RefuseOptions(const std::vector<CLI::Option*>& options, std::string_view needed) {
+  for (const CLI::Option* option : options) {
+    if (option->count() > 0) {
+      throw UsageError(fmt::format("{} needs {}", option->get_name(), needed));
+    }
+  }
+}
+
 class Encode {
  public:
   void AddTo(CLI::App& command);
@@ -32,7 +41,6 @@ class Encode {
   const MetricEntry* TakeId();
   std::vector<std::string> Values(const MetricEntry* metric) const;
   std::string Packed(const std::string& value) const;
-  void RefuseOptions(const std::vector<CLI::Option*>& options, const std::string& needed) const;
 
   std::string id_;
   std::vector<std::string> texts_;
@@ -141,8 +149,7 @@ const MetricEntry* Encode::TakeId() {
   if (metric == nullptr && raw_.empty()) {
     throw UsageError(
         fmt::format("there is no {}\"{}\" in the catalogue, so the type of its value is unknown: "
-                    "name a file of "
-                    "{}definitions, or give bytes by --raw",
+                    "name a file of {}definitions, or give bytes by --raw",
                     number ? "metric " : "event ID ", id_, number ? "--" : "--event-"));
   }
   return metric;
@@ -172,15 +179,6 @@ std::string Encode::Packed(const std::string& value) const {
       break;
   }
   return PackedNumeric(header_, value);
-}
-
-void Encode::RefuseOptions(const std::vector<CLI::Option*>& options,
-                           const std::string& needed) const {
-  for (const CLI::Option* option : options) {
-    if (option->count() > 0) {
-      throw UsageError(fmt::format("{} needs {}", option->get_name(), needed));
-    }
-  }
 }
 
 }  // namespace

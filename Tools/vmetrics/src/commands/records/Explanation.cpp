@@ -24,9 +24,10 @@ std::size_t BytesPerRow() {
 /// zeros with which a text is filled up.
 std::vector<std::string> RowsOf(std::string_view bytes, std::size_t perRow) {
   constexpr std::size_t kShown = 64;
+  constexpr std::size_t kZerosOfNumbers = 8;
   const std::size_t end = bytes.find_last_not_of('\0') + 1;
   const std::size_t zeros = bytes.size() - end;
-  const std::size_t used = zeros > 2 * sizeof(std::uint32_t) ? end + 1 : bytes.size();
+  const std::size_t used = zeros > kZerosOfNumbers ? end + 1 : bytes.size();
   std::vector<std::string> rows = HexRows(bytes.substr(0, std::min(used, kShown)), perRow);
   if (used > kShown) {
     rows.push_back(fmt::format("+{} more", bytes.size() - kShown));

@@ -71,7 +71,7 @@ bool LogEntry::IsStep() const {
 
 struct LogEntryParser::Parser {
   bool TakeObject(ondemand::object object, std::vector<Member>& members, int depth);
-  bool TakeValue(ondemand::value value, Member& member, int depth);
+  bool TakeValue(ondemand::value& value, Member& member, int depth);
 
   simdjson::ondemand::parser parser;
   ondemand::document document;
@@ -82,19 +82,17 @@ struct LogEntryParser::Parser {
 bool LogEntryParser::Parser::TakeObject(ondemand::object object, std::vector<Member>& members,
                                         int depth) {
   for (auto result : object) {
-    ondemand::field field;
-    Member member;
-    if (std::move(result).get(field) != simdjson::SUCCESS ||
-        field.unescaped_key().get(member.key) != simdjson::SUCCESS ||
-        !TakeValue(field.value(), member, depth)) {
+    Member& member = members.emplace_back();
+    if (result.error() != simdjson::SUCCESS ||
+        result.value_unsafe().unescaped_key().get(member.key) != simdjson::SUCCESS ||
+        !TakeValue(result.value_unsafe().value(), member, depth)) {
       return false;
     }
-    members.push_back(member);
   }
   return true;
 }
 
-bool LogEntryParser::Parser::TakeValue(ondemand::value value, Member& member, int depth) {
+bool LogEntryParser::Parser::TakeValue(ondemand::value& value, Member& member, int depth) {
   ondemand::json_type type;
   if (value.type().get(type) != simdjson::SUCCESS) {
     return false;

@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 #include "Operands.h"
 #include "Progress.h"
 #include "Terminal.h"
@@ -12,6 +14,10 @@ namespace vmetrics {
 void LogFiles::AddTo(CLI::App& command) {
   AddOperands(command, "file", "FILE", names_,
               "Metrics logs, plain or compressed by gzip; - or none is standard input");
+}
+
+bool LogFiles::HasStandardInput() const {
+  return names_.empty() || std::find(names_.begin(), names_.end(), "-") != names_.end();
 }
 
 void LogFiles::Read(LogReader::Hooks hooks) {

@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "LogReader.h"
@@ -12,8 +13,14 @@ namespace vmetrics {
 
 class LogFiles {
  public:
+  LogFiles() = default;
+  explicit LogFiles(std::vector<std::string> names) : names_(std::move(names)) {}
+
   /// Adds the operands to the subcommand.
   void AddTo(CLI::App& command);
+
+  /// Whether standard input is one of them.
+  bool HasStandardInput() const;
 
   /// Reads the files, or standard input where none is named, with progress and complaints. Of the
   /// hooks the first three are the caller's.

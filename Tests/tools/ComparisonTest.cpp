@@ -1,0 +1,98 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "stats/Comparison.h"
+
+namespace vmetrics {
+namespace {
+
+Summary Step(const std::string& name, double median, std::uint64_t failures = 0,
+             std::uint64_t count = 100) {
+  Figures figures;
+  figures.count = count;
+  figures.failures = failures;
+  figures.median = median;
+  return {{std::nullopt, name, SeriesKey::kTimeless}, false, figures};
+}
+
+Summary Metric(int id, double median) {
+  Summary summary = Step("value", median);
+  summary.key.id = id;
+  return summary;
+}
+
+Change Judged(const Summary& before, const Summary& after, const Rule& rule = {}) {
+  return Compare({before}, {after}, rule).at(0);
+}
+
+TEST(ComparisonTest, MedianMayGrowByTheThreshold) {
+  EXPECT_EQ(Judged(Step("a", 200), Step("a", 220)).verdict, Verdict::Same);
+  EXPECT_EQ(Judged(Step("a", 200), Step("a", 221)).verdict, Verdict::Worse);
+  EXPECT_TRUE(Judged(Step("a", 200), Step("a", 221)).medianGrew);
+  EXPECT_EQ(Judged(Step("a", 200), Step("a", 100)).verdict, Verdict::Same);
+}
+
+TEST(ComparisonTest, ThresholdIsTheUsers) {
+  Rule rule;
+  rule.threshold = 50;
+  EXPECT_EQ(Judged(Step("a", 200), Step("a", 300), rule).verdict, Verdict::Same);
+  EXPECT_EQ(Judged(Step("a", 200), Step("a", 301), rule).verdict, Verdict::Worse);
+}
+
+TEST(ComparisonTest, FewMillisecondsAreNoGrowth) {
+  EXPECT_EQ(Judged(Step("a", 0), Step("a", 4)).verdict, Verdict::Same);
+  EXPECT_EQ(Judged(Step("a", 0), Step("a", 5)).verdict, Verdict::Worse);
+  Rule rule;
+  rule.leastGrowth = 0;
+  EXPECT_EQ(Judged(Step("a", 0), Step("a", 0), rule).verdict, Verdict::Same);
+  EXPECT_EQ(Judged(Step("a", 0), Step("a", 1), rule).verdict, Verdict::Worse);
+}
+
+TEST(ComparisonTest, FailureRateMayGrowByTheThresholdInPoints) {
+  const Change same = Judged(Step("a", 1, 20), Step("a", 1, 30));
+  EXPECT_EQ(same.verdict, Verdict::Same);
+  const Change worse = Judged(Step("a", 1, 20), Step("a", 1, 31));
+  EXPECT_EQ(worse.verdict, Verdict::Worse);
+  EXPECT_TRUE(worse.failureRateGrew);
+  EXPECT_FALSE(worse.medianGrew);
+}
+
+TEST(ComparisonTest, FewRecordsAreNotJudged) {
+  EXPECT_EQ(Judged(Step("a", 1, 0, 9), Step("a", 900)).verdict, Verdict::Few);
+  EXPECT_EQ(Judged(Step("a", 1), Step("a", 900, 0, 9)).verdict, Verdict::Few);
+  EXPECT_EQ(Judged(Step("a", 1, 0, 10), Step("a", 900, 0, 10)).verdict, Verdict::Worse);
+}
+
+TEST(ComparisonTest, MissingMedianHasNotGrown) {
+  constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_EQ(Judged(Step("a", kNone), Step("a", 900)).verdict, Verdict::Same);
+  EXPECT_EQ(Judged(Step("a", 1), Step("a", kNone)).verdict, Verdict::Same);
+}
+
+TEST(ComparisonTest, MetricsAreNotJudged) {
+  EXPECT_EQ(Judged(Metric(7, 1), Metric(7, 900)).verdict, Verdict::None);
+}
+
+TEST(ComparisonTest, AppearedAndVanishedOnesAreListedInOrder) {
+  const auto changes = Compare({Step("a", 1), Step("b", 1), Metric(1, 1)},
+                               {Step("b", 1), Step("c", 1), Metric(2, 1)}, {});
+  std::vector<Verdict> verdicts;
+  for (const Change& change : changes) {
+    verdicts.push_back(change.verdict);
+  }
+  EXPECT_THAT(verdicts, testing::ElementsAre(Verdict::Gone, Verdict::Same, Verdict::Added,
+                                             Verdict::Gone, Verdict::Added));
+  EXPECT_FALSE(changes[0].after);
+  EXPECT_FALSE(changes[2].before);
+}
+
+TEST(ComparisonTest, MemberOfAnotherMetricIsAnother) {
+  EXPECT_EQ(Compare({Metric(1, 1)}, {Metric(2, 1)}, {}).size(), 2U);
+}
+
+}  // namespace
+}  // namespace vmetrics

@@ -1,0 +1,45 @@
+/// What has become of steps and metrics from one log to another.
+#ifndef VMETRICS_TOOL_STATS_COMPARISON_H_
+#define VMETRICS_TOOL_STATS_COMPARISON_H_
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "stats/Summary.h"
+
+namespace vmetrics {
+
+/// When a step counts as worse.
+struct Rule {
+  double threshold = 10;          ///< Percent of the median, percentage points of the failure rate.
+  double leastGrowth = 5;         ///< Milliseconds; a median that grew by less has not.
+  std::uint64_t leastCount = 10;  ///< Records in either log; with less a step is not judged.
+};
+
+enum class Verdict {
+  None,  ///< Of metrics: more of them may be better or worse.
+  Same,
+  Worse,
+  Few,    ///< Not judged, as there are too few records.
+  Added,  ///< In the new log only.
+  Gone    ///< In the old log only.
+};
+
+struct Change {
+  SeriesKey key;
+  bool isMasked;
+  std::optional<Figures> before;
+  std::optional<Figures> after;
+  Verdict verdict = Verdict::None;
+  bool medianGrew = false;
+  bool failureRateGrew = false;
+};
+
+/// Both lists side by side; they are in the order of their keys, and so is the result.
+std::vector<Change> Compare(const std::vector<Summary>& before, const std::vector<Summary>& after,
+                            const Rule& rule);
+
+}  // namespace vmetrics
+
+#endif  // VMETRICS_TOOL_STATS_COMPARISON_H_

@@ -1,0 +1,245 @@
+#include "stats/ComparisonOutput.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <limits>
+
+#include "Csv.h"
+#include "Table.h"
+
+namespace vmetrics {
+
+namespace {
+
+constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+
+/// One of the figures, not a number where the log has none.
+using Measure = double (*)(const Figures&);
+
+double Count(const Figures& figures) { return static_cast<double>(figures.count); }
+double Rate(const Figures& figures) { return figures.FailureRate(); }
+double Median(const Figures& figures) { return figures.median; }
+double Percentile95(const Figures& figures) { return figures.percentile95; }
+
+double Before(const Change& change, Measure measure) {
+  return change.before ? measure(*change.before) : kNone;
+}
+
+double After(const Change& change, Measure measure) {
+  return change.after ? measure(*change.after) : kNone;
+}
+
+// A table of steps, one of metrics ----------------------------------------------------------------
+
+const char* MarkOf(Verdict verdict) {
+  switch (verdict) {
+    case Verdict::Worse:
+      return "! ";
+    case Verdict::Few:
+      return "? ";
+    case Verdict::Added:
+      return "+ ";
+    case Verdict::Gone:
+      return "- ";
+    case Verdict::None:
+    case Verdict::Same:
+      break;
+  }
+  return "  ";
+}
+
+std::string Arrow(const std::string& before, const std::string& after) {
+  return before + "->" + after;
+}
+
+std::string ShownCounts(const Change& change) {
+  return Arrow(ShownValue(Before(change, Count)), ShownValue(After(change, Count)));
+}
+
+/// Adds both values and, in a cell of its own, what has changed: empty where nothing has.
+void AddValues(std::vector<std::string>& cells, const Change& change, Measure measure) {
+  if (change.isMasked) {
+    cells.push_back(Arrow(std::string(kMask), std::string(kMask)));
+    cells.emplace_back();
+    return;
+  }
+  const double before = Before(change, measure);
+  const double after = After(change, measure);
+  const double difference = after - before;
+  cells.push_back(Arrow(ShownValue(before), ShownValue(after)));
+  if (std::isnan(difference) || difference == 0) {
+    cells.emplace_back();
+  } else if (before == 0) {
+    cells.push_back(fmt::format("{:+.6g}", difference));
+  } else {
+    cells.push_back(fmt::format("{:+.1f}%", difference * 100 / std::fabs(before)));
+  }
+}
+
+void AddRates(std::vector<std::string>& cells, const Change& change) {
+  const double points = (After(change, Rate) - Before(change, Rate)) * 100;
+  cells.push_back(Arrow(ShownRate(Before(change, Rate)), ShownRate(After(change, Rate))));
+  cells.push_back(std::isnan(points) || points == 0 ? "" : fmt::format("{:+.1f}", points));
+}
+
+void AddChange(Table& table, const Change& change) {
+  std::vector<std::string> cells = {MarkOf(change.verdict) + LabelOf(change.key),
+                                    ShownCounts(change)};
+  if (change.key.IsStep()) {
+    AddRates(cells, change);
+  }
+  AddValues(cells, change, Median);
+  AddValues(cells, change, Percentile95);
+  table.AddRow(std::move(cells), change.verdict == Verdict::Worse ? Style::Red : Style::Plain);
+}
+
+void WriteLegend(const std::vector<Change>& changes, const Rule& rule) {
+  const auto explain = [&changes](Verdict verdict, const std::string& meaning) {
+    if (std::any_of(changes.begin(), changes.end(),
+                    [verdict](const Change& change) { return change.verdict == verdict; })) {
+      Write(MarkOf(verdict) + meaning + '\n');
+    }
+  };
+  Write("\n");
+  explain(Verdict::Worse,
+          fmt::format("worse: the median grew by more than {0}% and at least {1} ms,\n"
+                      "  or the failure rate by more than {0} percentage points",
+                      rule.threshold, rule.leastGrowth));
+  explain(Verdict::Few,
+          fmt::format("not judged: fewer than {} records in one of the logs", rule.leastCount));
+  explain(Verdict::Added, "in the new log only");
+  explain(Verdict::Gone, "in the old log only");
+  const auto worse = std::count_if(changes.begin(), changes.end(), [](const Change& change) {
+    return change.verdict == Verdict::Worse;
+  });
+  Write(worse == 0 ? "No step is worse.\n"
+                   : fmt::format("{} step{} worse.\n", worse, worse == 1 ? " is" : "s are"));
+}
+
+void WriteTables(const std::vector<Change>& changes, const Rule& rule) {
+  Table steps({"  STEP (ms)", "COUNT", "FAILED %", "", "MEDIAN", "", "P95", ""});
+  Table metrics({"  METRIC", "COUNT", "MEDIAN", "", "P95", ""});
+  std::size_t stepCount = 0;
+  for (const Change& change : changes) {
+    AddChange(change.key.IsStep() ? steps : metrics, change);
+    stepCount += change.key.IsStep() ? 1 : 0;
+  }
+  if (stepCount > 0) {
+    Write(steps.Text(OutputWidth()));
+  }
+  if (stepCount > 0 && stepCount < changes.size()) {
+    Write("\n");
+  }
+  if (stepCount < changes.size()) {
+    Write(metrics.Text(OutputWidth()));
+  }
+  if (!changes.empty()) {
+    WriteLegend(changes, rule);
+  }
+}
+
+// Formats for programs ----------------------------------------------------------------------------
+
+const char* NameOf(Verdict verdict) {
+  switch (verdict) {
+    case Verdict::Same:
+      return "same";
+    case Verdict::Worse:
+      return "worse";
+    case Verdict::Few:
+      return "few";
+    case Verdict::Added:
+      return "added";
+    case Verdict::Gone:
+      return "gone";
+    case Verdict::None:
+      break;
+  }
+  return "none";
+}
+
+VJson::Value SideObject(const Change& change, const Figures& figures) {
+  VJson::Value side;
+  side.AddJsonValue("count", figures.count);
+  if (change.key.IsStep()) {
+    side.AddJsonValue("failures", figures.failures);
+    side.AddJsonValue("failureRate", figures.FailureRate());
+  }
+  AddValue(side, "median", figures.median, change.isMasked);
+  AddValue(side, "p95", figures.percentile95, change.isMasked);
+  side.AddJsonValue("relativeError", figures.relativeError);
+  return side;
+}
+
+VJson::Value DifferenceObject(const Change& change) {
+  const auto difference = [&change](Measure measure) {
+    return After(change, measure) - Before(change, measure);
+  };
+  VJson::Value object;
+  object.AddJsonValue("count", difference(Count));
+  if (change.key.IsStep()) {
+    object.AddJsonValue("failureRate", difference(Rate));
+  }
+  AddValue(object, "median", difference(Median), change.isMasked);
+  AddValue(object, "p95", difference(Percentile95), change.isMasked);
+  return object;
+}
+
+std::string JsonLineOf(const Change& change) {
+  VJson::Value object;
+  AddKey(object, change.key, Period::None);
+  object.AddJsonValue("verdict", NameOf(change.verdict));
+  if (change.before) {
+    object.Add("old", SideObject(change, *change.before));
+  }
+  if (change.after) {
+    object.Add("new", SideObject(change, *change.after));
+  }
+  if (change.before && change.after) {
+    object.Add("change", DifferenceObject(change));
+  }
+  if (change.verdict == Verdict::Same || change.verdict == Verdict::Worse) {
+    object.AddJsonValue("medianGrew", change.medianGrew);
+    object.AddJsonValue("failureRateGrew", change.failureRateGrew);
+  }
+  return JsonLine(object);
+}
+
+std::string CsvLineOf(const Change& change) {
+  const SeriesKey& key = change.key;
+  std::vector<std::string> fields = {key.IsStep() ? "step" : "metric",
+                                     key.IsStep() ? "" : std::to_string(*key.id), key.name,
+                                     NameOf(change.verdict)};
+  const auto add = [&](Measure measure, bool isShown) {
+    for (const double value : {Before(change, measure), After(change, measure)}) {
+      fields.push_back(isShown ? ExactValue(value) : std::string(kMask));
+    }
+  };
+  add(Count, true);
+  add(
+      key.IsStep() ? Rate : [](const Figures&) { return kNone; }, true);
+  add(Median, !change.isMasked);
+  add(Percentile95, !change.isMasked);
+  return CsvLine({fields.begin(), fields.end()});
+}
+
+}  // namespace
+
+void WriteChanges(const std::vector<Change>& changes, const Rule& rule, const std::string& format) {
+  if (format == "table") {
+    WriteTables(changes, rule);
+    return;
+  }
+  if (format == "csv") {
+    Write(CsvLine({"kind", "id", "name", "verdict", "oldCount", "newCount", "oldFailureRate",
+                   "newFailureRate", "oldMedian", "newMedian", "oldP95", "newP95"}));
+  }
+  for (const Change& change : changes) {
+    Write(format == "csv" ? CsvLineOf(change) : JsonLineOf(change));
+  }
+}
+
+}  // namespace vmetrics

@@ -1,0 +1,186 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <memory>
+
+#include "Command.h"
+#include "Definitions.h"
+#include "Format.h"
+#include "LogFiles.h"
+#include "MetricId.h"
+#include "Privacy.h"
+#include "stats/ComparisonOutput.h"
+#include "stats/SummaryOutput.h"
+
+namespace vmetrics {
+
+namespace {
+
+constexpr const char* kDescription =
+    "Sums up metrics logs: for each step its durations, failures and most frequent error codes, "
+    "for each metric with a numeric ID its values. With --compare, against an older log; the exit "
+    "status is 1 if a step is worse.";
+
+constexpr const char* kExample =
+    "Example:\n"
+    "  vmetrics stats client.log agent.log.gz\n"
+    "  vmetrics stats --compare release-1.log --threshold 20 release-2.log";
+
+struct StatsOptions {
+  LogFiles files;
+  std::optional<std::string> oldFile;
+  Definitions definitions;
+  Privacy privacy;
+  std::string format;
+  std::string period;
+  SeriesChoice choice;
+  std::vector<std::string> metrics;
+  Rule rule;
+};
+
+template <typename Number>
+bool IsNumber(const std::string& text, Number& number) {
+  const char* end = text.data() + text.size();
+  const std::from_chars_result result = std::from_chars(text.data(), end, number);
+  return result.ec == std::errc() && result.ptr == end;
+}
+
+/// What the parser of arguments would take for a number, infinity and "nan" included, is not
+/// enough.
+std::string IsFinite(const std::string& text) {
+  double number = 0;
+  const bool isGood = IsNumber(text, number) && std::isfinite(number) && number >= 0;
+  return isGood ? "" : fmt::format("{} is no number from 0 on", text);
+}
+
+std::string IsCount(const std::string& text) {
+  std::uint64_t number = 0;
+  return IsNumber(text, number) ? "" : fmt::format("{} is no whole number from 0 on", text);
+}
+
+void AddComparisonOptions(CLI::App& command, StatsOptions& options, CLI::Option* by) {
+  CLI::Option* compare = command
+                             .add_option("--compare", options.oldFile,
+                                         "Show what has changed since the log OLD, - for standard "
+                                         "input")
+                             ->option_text("OLD");
+  compare->excludes(by);
+  command
+      .add_option("--threshold", options.rule.threshold,
+                  "A step is worse if its median grew by more than that, or its failure rate by "
+                  "more than so many percentage points; 10 unless given")
+      ->option_text("PERCENT")
+      ->check(IsFinite)
+      ->needs(compare);
+  command
+      .add_option("--min-growth", options.rule.leastGrowth,
+                  "No median counts as grown that grew by less; 5 unless given")
+      ->option_text("MS")
+      ->check(IsFinite)
+      ->needs(compare);
+  command
+      .add_option("--min-count", options.rule.leastCount,
+                  "No step is judged that has fewer records in one of the logs; 10 unless given")
+      ->option_text("COUNT")
+      ->check(IsCount)
+      ->needs(compare);
+}
+
+void AddOptions(CLI::App& command, StatsOptions& options) {
+  options.files.AddTo(command);
+  CLI::Option* by =
+      command.add_option("--by", options.period, "Sum up each hour or day (UTC) by itself")
+          ->option_text("hour|day")
+          ->check(CLI::IsMember({"hour", "day"}));
+  command.add_option("--step", options.choice.steps, "Only that step; may be given again")
+      ->option_text("NAME")
+      ->allow_extra_args(false);
+  command
+      .add_option("--metric", options.metrics,
+                  "Only that metric, its ID decimal or hexadecimal; may be given again")
+      ->option_text("ID")
+      ->allow_extra_args(false);
+  AddFormat(command, options.format, {"table", "json", "csv"});
+  AddComparisonOptions(command, options, by);
+  options.definitions.AddTo(command);
+  options.privacy.AddTo(command);
+}
+
+SeriesChoice ChoiceOf(const StatsOptions& options) {
+  SeriesChoice choice = options.choice;
+  choice.period = options.period == "hour"  ? Period::Hour
+                  : options.period == "day" ? Period::Day
+                                            : Period::None;
+  for (const std::string& metric : options.metrics) {
+    const std::optional<int> id = ParseMetricId(metric);
+    if (!id) {
+      throw UsageError(fmt::format("--metric: {} is no metric ID", metric));
+    }
+    choice.metrics.push_back(*id);
+  }
+  return choice;
+}
+
+void ReadLog(LogFiles& files, LogStatistics& statistics) {
+  files.Read({[&statistics](const LinePlace&, const LogEntry& entry) { statistics.Add(entry); },
+              nullptr, nullptr, nullptr, nullptr});
+}
+
+/// `status`, or that of trouble where not everything is counted.
+int ConcludeStatistics(const LogStatistics& statistics, int status) {
+  if (statistics.LeftOut() == 0) {
+    return status;
+  }
+  Complain(
+      fmt::format("{} values left out: more than {} series; name those wanted by --step and "
+                  "--metric",
+                  statistics.LeftOut(), LogStatistics::kMostSeries));
+  return kTrouble;
+}
+
+int ShowSummaries(StatsOptions& options) {
+  LogStatistics statistics(options.choice);
+  ReadLog(options.files, statistics);
+  WriteSummaries(Summarise(statistics, options.privacy), options.choice.period, options.format);
+  return ConcludeStatistics(statistics, options.files.Conclude(kSuccess));
+}
+
+int ShowComparison(StatsOptions& options) {
+  if (*options.oldFile == "-" && options.files.HasStandardInput()) {
+    throw UsageError("standard input can be one of the logs only: name a file");
+  }
+  LogFiles oldFiles({*options.oldFile});
+  LogStatistics before(options.choice);
+  ReadLog(oldFiles, before);
+  LogStatistics after(options.choice);
+  ReadLog(options.files, after);
+  const std::vector<Change> changes =
+      Compare(Summarise(before, options.privacy), Summarise(after, options.privacy), options.rule);
+  WriteChanges(changes, options.rule, options.format);
+  const bool isWorse = std::any_of(changes.begin(), changes.end(), [](const Change& change) {
+    return change.verdict == Verdict::Worse;
+  });
+  const int status = oldFiles.Conclude(options.files.Conclude(isWorse ? kFindings : kSuccess));
+  return ConcludeStatistics(before, ConcludeStatistics(after, status));
+}
+
+int Show(StatsOptions& options) {
+  options.choice = ChoiceOf(options);
+  options.definitions.Register();
+  return options.definitions.Conclude(options.oldFile ? ShowComparison(options)
+                                                      : ShowSummaries(options));
+}
+
+}  // namespace
+
+void AddStats(CLI::App& program, Action& action) {
+  CLI::App* command = program.add_subcommand("stats", kDescription);
+  const auto options = std::make_shared<StatsOptions>();
+  AddOptions(*command, *options);
+  command->footer(kExample);
+  command->callback([&action, options] { action = [options] { return Show(*options); }; });
+}
+
+}  // namespace vmetrics

@@ -30,51 +30,51 @@ Change Judged(const Summary& before, const Summary& after, const Rule& rule = {}
 }
 
 TEST(ComparisonTest, MedianMayGrowByTheThreshold) {
-  EXPECT_EQ(Judged(Step("a", 200), Step("a", 220)).verdict, Verdict::Same);
-  EXPECT_EQ(Judged(Step("a", 200), Step("a", 221)).verdict, Verdict::Worse);
+  EXPECT_EQ(Judged(Step("a", 200), Step("a", 220)).verdict, Verdict::kSame);
+  EXPECT_EQ(Judged(Step("a", 200), Step("a", 221)).verdict, Verdict::kWorse);
   EXPECT_TRUE(Judged(Step("a", 200), Step("a", 221)).medianGrew);
-  EXPECT_EQ(Judged(Step("a", 200), Step("a", 100)).verdict, Verdict::Same);
+  EXPECT_EQ(Judged(Step("a", 200), Step("a", 100)).verdict, Verdict::kSame);
 }
 
 TEST(ComparisonTest, ThresholdIsTheUsers) {
   Rule rule;
   rule.threshold = 50;
-  EXPECT_EQ(Judged(Step("a", 200), Step("a", 300), rule).verdict, Verdict::Same);
-  EXPECT_EQ(Judged(Step("a", 200), Step("a", 301), rule).verdict, Verdict::Worse);
+  EXPECT_EQ(Judged(Step("a", 200), Step("a", 300), rule).verdict, Verdict::kSame);
+  EXPECT_EQ(Judged(Step("a", 200), Step("a", 301), rule).verdict, Verdict::kWorse);
 }
 
 TEST(ComparisonTest, FewMillisecondsAreNoGrowth) {
-  EXPECT_EQ(Judged(Step("a", 0), Step("a", 4)).verdict, Verdict::Same);
-  EXPECT_EQ(Judged(Step("a", 0), Step("a", 5)).verdict, Verdict::Worse);
+  EXPECT_EQ(Judged(Step("a", 0), Step("a", 4)).verdict, Verdict::kSame);
+  EXPECT_EQ(Judged(Step("a", 0), Step("a", 5)).verdict, Verdict::kWorse);
   Rule rule;
   rule.leastGrowth = 0;
-  EXPECT_EQ(Judged(Step("a", 0), Step("a", 0), rule).verdict, Verdict::Same);
-  EXPECT_EQ(Judged(Step("a", 0), Step("a", 1), rule).verdict, Verdict::Worse);
+  EXPECT_EQ(Judged(Step("a", 0), Step("a", 0), rule).verdict, Verdict::kSame);
+  EXPECT_EQ(Judged(Step("a", 0), Step("a", 1), rule).verdict, Verdict::kWorse);
 }
 
 TEST(ComparisonTest, FailureRateMayGrowByTheThresholdInPoints) {
   const Change same = Judged(Step("a", 1, 20), Step("a", 1, 30));
-  EXPECT_EQ(same.verdict, Verdict::Same);
+  EXPECT_EQ(same.verdict, Verdict::kSame);
   const Change worse = Judged(Step("a", 1, 20), Step("a", 1, 31));
-  EXPECT_EQ(worse.verdict, Verdict::Worse);
+  EXPECT_EQ(worse.verdict, Verdict::kWorse);
   EXPECT_TRUE(worse.failureRateGrew);
   EXPECT_FALSE(worse.medianGrew);
 }
 
 TEST(ComparisonTest, FewRecordsAreNotJudged) {
-  EXPECT_EQ(Judged(Step("a", 1, 0, 9), Step("a", 900)).verdict, Verdict::Few);
-  EXPECT_EQ(Judged(Step("a", 1), Step("a", 900, 0, 9)).verdict, Verdict::Few);
-  EXPECT_EQ(Judged(Step("a", 1, 0, 10), Step("a", 900, 0, 10)).verdict, Verdict::Worse);
+  EXPECT_EQ(Judged(Step("a", 1, 0, 9), Step("a", 900)).verdict, Verdict::kFew);
+  EXPECT_EQ(Judged(Step("a", 1), Step("a", 900, 0, 9)).verdict, Verdict::kFew);
+  EXPECT_EQ(Judged(Step("a", 1, 0, 10), Step("a", 900, 0, 10)).verdict, Verdict::kWorse);
 }
 
 TEST(ComparisonTest, MissingMedianHasNotGrown) {
   constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-  EXPECT_EQ(Judged(Step("a", kNone), Step("a", 900)).verdict, Verdict::Same);
-  EXPECT_EQ(Judged(Step("a", 1), Step("a", kNone)).verdict, Verdict::Same);
+  EXPECT_EQ(Judged(Step("a", kNone), Step("a", 900)).verdict, Verdict::kSame);
+  EXPECT_EQ(Judged(Step("a", 1), Step("a", kNone)).verdict, Verdict::kSame);
 }
 
 TEST(ComparisonTest, MetricsAreNotJudged) {
-  EXPECT_EQ(Judged(Metric(7, 1), Metric(7, 900)).verdict, Verdict::None);
+  EXPECT_EQ(Judged(Metric(7, 1), Metric(7, 900)).verdict, Verdict::kNone);
 }
 
 TEST(ComparisonTest, AppearedAndVanishedOnesAreListedInOrder) {
@@ -84,8 +84,8 @@ TEST(ComparisonTest, AppearedAndVanishedOnesAreListedInOrder) {
   for (const Change& change : changes) {
     verdicts.push_back(change.verdict);
   }
-  EXPECT_THAT(verdicts, testing::ElementsAre(Verdict::Gone, Verdict::Same, Verdict::Added,
-                                             Verdict::Gone, Verdict::Added));
+  EXPECT_THAT(verdicts, testing::ElementsAre(Verdict::kGone, Verdict::kSame, Verdict::kAdded,
+                                             Verdict::kGone, Verdict::kAdded));
   EXPECT_FALSE(changes[0].after);
   EXPECT_FALSE(changes[2].before);
 }

@@ -141,15 +141,15 @@ std::vector<std::int64_t> PeriodsOf(Period period, const std::vector<std::string
 }
 
 TEST(LogStatisticsPeriodTest, HoursAndDays) {
-  EXPECT_THAT(PeriodsOf(Period::Hour, {"3600000", "3599999", "0"}), ElementsAre(0, 1));
-  EXPECT_THAT(PeriodsOf(Period::Day, {"86400000", "86399999"}), ElementsAre(0, 1));
+  EXPECT_THAT(PeriodsOf(Period::kHour, {"3600000", "3599999", "0"}), ElementsAre(0, 1));
+  EXPECT_THAT(PeriodsOf(Period::kDay, {"86400000", "86399999"}), ElementsAre(0, 1));
 }
 
 TEST(LogStatisticsPeriodTest, TimesBeyondTheCalendarAreTimeless) {
-  EXPECT_THAT(PeriodsOf(Period::Day,
+  EXPECT_THAT(PeriodsOf(Period::kDay,
                         {"-1", "253402300800000", "1e3", "\"0\"", "null", "99999999999999999999"}),
               ElementsAre(SeriesKey::kTimeless));
-  EXPECT_THAT(PeriodsOf(Period::Day, {"253402300799999"}), ElementsAre(2932896));
+  EXPECT_THAT(PeriodsOf(Period::kDay, {"253402300799999"}), ElementsAre(2932896));
 }
 
 TEST(ErrorCodesTest, MostFrequentFirstThenTheLeast) {

@@ -11,7 +11,7 @@ void Judge(Change& change, const Rule& rule) {
   const Figures& before = *change.before;
   const Figures& after = *change.after;
   if (before.count < rule.leastCount || after.count < rule.leastCount) {
-    change.verdict = Verdict::Few;
+    change.verdict = Verdict::kFew;
     return;
   }
   // False where either has no median, which is not a number.
@@ -19,7 +19,7 @@ void Judge(Change& change, const Rule& rule) {
   change.medianGrew = growth >= rule.leastGrowth && growth * 100 > before.median * rule.threshold;
   const double points = (after.FailureRate() - before.FailureRate()) * 100;
   change.failureRateGrew = points > rule.threshold + kRoundingError;
-  change.verdict = change.medianGrew || change.failureRateGrew ? Verdict::Worse : Verdict::Same;
+  change.verdict = change.medianGrew || change.failureRateGrew ? Verdict::kWorse : Verdict::kSame;
 }
 
 }  // namespace
@@ -41,7 +41,7 @@ std::vector<Change> Compare(const std::vector<Summary>& before, const std::vecto
       change.after = (now++)->figures;
     }
     if (isGone || isAdded) {
-      change.verdict = isGone ? Verdict::Gone : Verdict::Added;
+      change.verdict = isGone ? Verdict::kGone : Verdict::kAdded;
     } else if (one.key.IsStep()) {
       Judge(change, rule);
     }

@@ -18,12 +18,12 @@ struct Rule {
 };
 
 enum class Verdict {
-  None,  ///< Of metrics: more of them may be better or worse.
-  Same,
-  Worse,
-  Few,    ///< Not judged, as there are too few records.
-  Added,  ///< In the new log only.
-  Gone    ///< In the old log only.
+  kNone,  ///< Of metrics: more of them may be better or worse.
+  kSame,
+  kWorse,
+  kFew,    ///< Not judged, as there are too few records.
+  kAdded,  ///< In the new log only.
+  kGone    ///< In the old log only.
 };
 
 struct Change {
@@ -31,7 +31,7 @@ struct Change {
   bool isMasked;
   std::optional<Figures> before;
   std::optional<Figures> after;
-  Verdict verdict = Verdict::None;
+  Verdict verdict = Verdict::kNone;
   bool medianGrew = false;
   bool failureRateGrew = false;
 };

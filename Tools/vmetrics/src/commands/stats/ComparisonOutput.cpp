@@ -19,6 +19,7 @@ constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
 /// One of the figures, not a number where the log has none.
 using Measure = double (*)(const Figures&);
 
+double RelativeError(const Figures& figures) { return figures.relativeError; }
 double Count(const Figures& figures) { return static_cast<double>(figures.count); }
 double Rate(const Figures& figures) { return figures.FailureRate(); }
 double Median(const Figures& figures) { return figures.median; }
@@ -36,16 +37,16 @@ double After(const Change& change, Measure measure) {
 
 const char* MarkOf(Verdict verdict) {
   switch (verdict) {
-    case Verdict::Worse:
+    case Verdict::kWorse:
       return "! ";
-    case Verdict::Few:
+    case Verdict::kFew:
       return "? ";
-    case Verdict::Added:
+    case Verdict::kAdded:
       return "+ ";
-    case Verdict::Gone:
+    case Verdict::kGone:
       return "- ";
-    case Verdict::None:
-    case Verdict::Same:
+    case Verdict::kNone:
+    case Verdict::kSame:
       break;
   }
   return "  ";
@@ -55,45 +56,62 @@ std::string Arrow(const std::string& before, const std::string& after) {
   return before + "->" + after;
 }
 
-std::string ShownCounts(const Change& change) {
-  return Arrow(ShownValue(Before(change, Count)), ShownValue(After(change, Count)));
+/// A measure in both logs, as `show` writes it; nothing on the side of a log that has none.
+template <typename Show>
+std::string Both(const Change& change, Show show) {
+  return Arrow(change.before ? show(*change.before) : "", change.after ? show(*change.after) : "");
 }
 
-/// Adds both values and, in a cell of its own, what has changed: empty where nothing has.
+/// What has become of a value: empty where nothing has.
+std::string Difference(double before, double after) {
+  const double difference = after - before;
+  if (std::isnan(difference) || difference == 0) {
+    return {};
+  }
+  return before == 0 ? fmt::format("{:+.6g}", difference)
+                     : fmt::format("{:+.1f}%", difference * 100 / std::fabs(before));
+}
+
+/// Adds both values and, in a cell of its own, their difference.
 void AddValues(std::vector<std::string>& cells, const Change& change, Measure measure) {
   if (change.isMasked) {
-    cells.push_back(Arrow(std::string(kMask), std::string(kMask)));
+    cells.push_back(Both(change, [](const Figures&) { return std::string(kMask); }));
     cells.emplace_back();
     return;
   }
-  const double before = Before(change, measure);
-  const double after = After(change, measure);
-  const double difference = after - before;
-  cells.push_back(Arrow(ShownValue(before), ShownValue(after)));
-  if (std::isnan(difference) || difference == 0) {
-    cells.emplace_back();
-  } else if (before == 0) {
-    cells.push_back(fmt::format("{:+.6g}", difference));
-  } else {
-    cells.push_back(fmt::format("{:+.1f}%", difference * 100 / std::fabs(before)));
-  }
+  cells.push_back(Both(change, [measure](const Figures& figures) {
+    return ShownValue(measure(figures), figures.relativeError);
+  }));
+  cells.push_back(Difference(Before(change, measure), After(change, measure)));
 }
 
 void AddRates(std::vector<std::string>& cells, const Change& change) {
   const double points = (After(change, Rate) - Before(change, Rate)) * 100;
-  cells.push_back(Arrow(ShownRate(Before(change, Rate)), ShownRate(After(change, Rate))));
+  cells.push_back(
+      Both(change, [](const Figures& figures) { return ShownRate(figures.FailureRate()); }));
   cells.push_back(std::isnan(points) || points == 0 ? "" : fmt::format("{:+.1f}", points));
 }
 
 void AddChange(Table& table, const Change& change) {
-  std::vector<std::string> cells = {MarkOf(change.verdict) + LabelOf(change.key),
-                                    ShownCounts(change)};
+  std::vector<std::string> cells = {
+      MarkOf(change.verdict) + LabelOf(change.key),
+      Both(change, [](const Figures& figures) { return std::to_string(figures.count); })};
   if (change.key.IsStep()) {
     AddRates(cells, change);
   }
   AddValues(cells, change, Median);
   AddValues(cells, change, Percentile95);
-  table.AddRow(std::move(cells), change.verdict == Verdict::Worse ? Style::Red : Style::Plain);
+  table.AddRow(std::move(cells), change.verdict == Verdict::kWorse ? Style::Red : Style::Plain);
+}
+
+double GreatestError(const std::vector<Change>& changes) {
+  double greatest = 0;
+  for (const Change& change : changes) {
+    // Not a number where the log has none, which is then the one that is passed over.
+    greatest = std::fmax(greatest, Before(change, RelativeError));
+    greatest = std::fmax(greatest, After(change, RelativeError));
+  }
+  return greatest;
 }
 
 void WriteLegend(const std::vector<Change>& changes, const Rule& rule) {
@@ -103,17 +121,17 @@ void WriteLegend(const std::vector<Change>& changes, const Rule& rule) {
       Write(MarkOf(verdict) + meaning + '\n');
     }
   };
-  Write("\n");
-  explain(Verdict::Worse,
+  Write("\n" + ErrorLegend(GreatestError(changes)));
+  explain(Verdict::kWorse,
           fmt::format("worse: the median grew by more than {0}% and at least {1} ms,\n"
                       "  or the failure rate by more than {0} percentage points",
                       rule.threshold, rule.leastGrowth));
-  explain(Verdict::Few,
+  explain(Verdict::kFew,
           fmt::format("not judged: fewer than {} records in one of the logs", rule.leastCount));
-  explain(Verdict::Added, "in the new log only");
-  explain(Verdict::Gone, "in the old log only");
+  explain(Verdict::kAdded, "in the new log only");
+  explain(Verdict::kGone, "in the old log only");
   const auto worse = std::count_if(changes.begin(), changes.end(), [](const Change& change) {
-    return change.verdict == Verdict::Worse;
+    return change.verdict == Verdict::kWorse;
   });
   Write(worse == 0 ? "No step is worse.\n"
                    : fmt::format("{} step{} worse.\n", worse, worse == 1 ? " is" : "s are"));
@@ -145,17 +163,17 @@ void WriteTables(const std::vector<Change>& changes, const Rule& rule) {
 
 const char* NameOf(Verdict verdict) {
   switch (verdict) {
-    case Verdict::Same:
+    case Verdict::kSame:
       return "same";
-    case Verdict::Worse:
+    case Verdict::kWorse:
       return "worse";
-    case Verdict::Few:
+    case Verdict::kFew:
       return "few";
-    case Verdict::Added:
+    case Verdict::kAdded:
       return "added";
-    case Verdict::Gone:
+    case Verdict::kGone:
       return "gone";
-    case Verdict::None:
+    case Verdict::kNone:
       break;
   }
   return "none";
@@ -190,7 +208,7 @@ VJson::Value DifferenceObject(const Change& change) {
 
 std::string JsonLineOf(const Change& change) {
   VJson::Value object;
-  AddKey(object, change.key, Period::None);
+  AddKey(object, change.key, Period::kNone);
   object.AddJsonValue("verdict", NameOf(change.verdict));
   if (change.before) {
     object.Add("old", SideObject(change, *change.before));
@@ -201,7 +219,7 @@ std::string JsonLineOf(const Change& change) {
   if (change.before && change.after) {
     object.Add("change", DifferenceObject(change));
   }
-  if (change.verdict == Verdict::Same || change.verdict == Verdict::Worse) {
+  if (change.verdict == Verdict::kSame || change.verdict == Verdict::kWorse) {
     object.AddJsonValue("medianGrew", change.medianGrew);
     object.AddJsonValue("failureRateGrew", change.failureRateGrew);
   }
@@ -223,6 +241,7 @@ std::string CsvLineOf(const Change& change) {
       key.IsStep() ? Rate : [](const Figures&) { return kNone; }, true);
   add(Median, !change.isMasked);
   add(Percentile95, !change.isMasked);
+  add(RelativeError, true);
   return CsvLine({fields.begin(), fields.end()});
 }
 
@@ -235,7 +254,8 @@ void WriteChanges(const std::vector<Change>& changes, const Rule& rule, const st
   }
   if (format == "csv") {
     Write(CsvLine({"kind", "id", "name", "verdict", "oldCount", "newCount", "oldFailureRate",
-                   "newFailureRate", "oldMedian", "newMedian", "oldP95", "newP95"}));
+                   "newFailureRate", "oldMedian", "newMedian", "oldP95", "newP95",
+                   "oldRelativeError", "newRelativeError"}));
   }
   for (const Change& change : changes) {
     Write(format == "csv" ? CsvLineOf(change) : JsonLineOf(change));

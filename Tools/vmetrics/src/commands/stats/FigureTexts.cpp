@@ -10,19 +10,12 @@
 
 namespace vmetrics {
 
-std::string ShownValue(double value) {
-  constexpr double kLeastShortened = 1e7;
-  constexpr double kMostShortened = 1e18;
-  if (std::isnan(value)) {
-    return "-";
-  }
-  const double size = std::fabs(value);
-  if (size < kLeastShortened) {
-    return std::trunc(value) == value ? fmt::format("{:.0f}", value) : fmt::format("{:.5g}", value);
-  }
-  if (size >= kMostShortened) {
-    return fmt::format("{:.3g}", value);
-  }
+namespace {
+
+constexpr double kLeastShortened = 1e7;
+constexpr double kMostShortened = 1e18;
+
+std::string Shortened(double value) {
   double scaled = value / 1e6;
   const char* unit = "MGTP";
   for (; std::fabs(scaled) >= 1000 && unit[1] != '\0'; ++unit) {
@@ -31,12 +24,34 @@ std::string ShownValue(double value) {
   return fmt::format("{:.4g}{}", scaled, *unit);
 }
 
+}  // namespace
+
+std::string ShownValue(double value, double relativeError) {
+  if (relativeError > 0) {
+    return '~' + ShownValue(value);
+  }
+  if (std::isnan(value)) {
+    return "-";
+  }
+  if (std::fabs(value) >= kLeastShortened) {
+    return std::fabs(value) < kMostShortened ? Shortened(value) : fmt::format("{:.3g}", value);
+  }
+  return std::trunc(value) == value ? fmt::format("{:.0f}", value) : fmt::format("{:.5g}", value);
+}
+
 std::string ExactValue(double value) {
   return std::isnan(value) ? std::string() : fmt::format("{}", value);
 }
 
 std::string ShownRate(double rate) {
   return std::isnan(rate) ? "-" : fmt::format("{:.1f}", rate * 100);
+}
+
+std::string ErrorLegend(double greatestRelativeError) {
+  return greatestRelativeError == 0
+             ? std::string()
+             : fmt::format("~ within {:.2g}%: there are too many values to count each\n",
+                           greatestRelativeError * 100);
 }
 
 std::string LabelOf(const SeriesKey& key) {
@@ -49,8 +64,8 @@ std::string PeriodText(Period period, std::int64_t index) {
     return "no time";
   }
   constexpr std::time_t kSeconds = 3600;
-  return period == Period::Hour ? fmt::format("{:%Y-%m-%d %H:00}", fmt::gmtime(index * kSeconds))
-                                : fmt::format("{:%Y-%m-%d}", fmt::gmtime(index * 24 * kSeconds));
+  return period == Period::kHour ? fmt::format("{:%Y-%m-%d %H:00}", fmt::gmtime(index * kSeconds))
+                                 : fmt::format("{:%Y-%m-%d}", fmt::gmtime(index * 24 * kSeconds));
 }
 
 std::string JsonLine(const VJson::Value& object) {
@@ -65,7 +80,7 @@ void AddKey(VJson::Value& object, const SeriesKey& key, Period period) {
     object.AddJsonValue("metric", std::to_string(*key.id));
     object.AddJsonValue("name", key.name);
   }
-  if (period != Period::None) {
+  if (period != Period::kNone) {
     object.AddJsonValue("period", PeriodText(period, key.period));
   }
 }

@@ -11,14 +11,17 @@
 namespace vmetrics {
 
 /// A value for people: whole numbers below ten million exact, greater ones as "5.369G", fractions
-/// with five digits; "-" for none.
-std::string ShownValue(double value);
+/// with five digits; "-" for none. "~" in front where it errs.
+std::string ShownValue(double value, double relativeError = 0);
 
 /// A value for machines: the shortest text that reads back the same; empty for none.
 std::string ExactValue(double value);
 
 /// Percent, as "3.2"; "-" for none.
 std::string ShownRate(double rate);
+
+/// What "~" means to people who look at these errors; empty where none is more than 0.
+std::string ErrorLegend(double greatestRelativeError);
 
 /// The name of a step, or the name and ID of a metric; printable.
 std::string LabelOf(const SeriesKey& key);

@@ -106,14 +106,14 @@ bool LogStatistics::IsWanted(int metric) const {
 std::int64_t LogStatistics::PeriodOf(const LogEntry& entry) const {
   constexpr std::int64_t kHour = 3600000;  // In milliseconds, as timestamps are.
   constexpr std::int64_t kYear10000 = 253402300800000;
-  if (choice_.period == Period::None) {
+  if (choice_.period == Period::kNone) {
     return SeriesKey::kTimeless;
   }
   const std::int64_t time = IntegerOf(entry.Find("timestamp")).value_or(-1);
   if (time < 0 || time >= kYear10000) {
     return SeriesKey::kTimeless;
   }
-  return time / (choice_.period == Period::Hour ? kHour : 24 * kHour);
+  return time / (choice_.period == Period::kHour ? kHour : 24 * kHour);
 }
 
 Series* LogStatistics::SeriesOf(std::optional<int> id, std::string_view name, std::int64_t period) {

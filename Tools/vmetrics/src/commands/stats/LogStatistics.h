@@ -16,7 +16,7 @@ namespace vmetrics {
 
 /// Which series are wanted.
 struct SeriesChoice {
-  Period period = Period::None;
+  Period period = Period::kNone;
   // Where neither names anything, all are wanted.
   std::vector<std::string> steps;
   std::vector<int> metrics;

@@ -15,7 +15,7 @@
 namespace vmetrics {
 
 /// Into what the time is cut up; in UTC.
-enum class Period { None, Day, Hour };
+enum class Period { kNone, kDay, kHour };
 
 /// What is counted apart: a step, or a metric with a numeric ID, of one period.
 struct SeriesKey {

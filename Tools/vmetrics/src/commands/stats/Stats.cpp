@@ -110,9 +110,9 @@ void AddOptions(CLI::App& command, StatsOptions& options) {
 
 SeriesChoice ChoiceOf(const StatsOptions& options) {
   SeriesChoice choice = options.choice;
-  choice.period = options.period == "hour"  ? Period::Hour
-                  : options.period == "day" ? Period::Day
-                                            : Period::None;
+  choice.period = options.period == "hour"  ? Period::kHour
+                  : options.period == "day" ? Period::kDay
+                                            : Period::kNone;
   for (const std::string& metric : options.metrics) {
     const std::optional<int> id = ParseMetricId(metric);
     if (!id) {
@@ -134,9 +134,9 @@ int ConcludeStatistics(const LogStatistics& statistics, int status) {
     return status;
   }
   Complain(
-      fmt::format("{} values left out: more than {} series; name those wanted by --step and "
-                  "--metric",
-                  statistics.LeftOut(), LogStatistics::kMostSeries));
+      fmt::format("values left out, as there are too many steps, metrics and periods: {}; "
+                  "choose some by --step or --metric",
+                  statistics.LeftOut()));
   return kTrouble;
 }
 
@@ -160,7 +160,7 @@ int ShowComparison(StatsOptions& options) {
       Compare(Summarise(before, options.privacy), Summarise(after, options.privacy), options.rule);
   WriteChanges(changes, options.rule, options.format);
   const bool isWorse = std::any_of(changes.begin(), changes.end(), [](const Change& change) {
-    return change.verdict == Verdict::Worse;
+    return change.verdict == Verdict::kWorse;
   });
   const int status = oldFiles.Conclude(options.files.Conclude(isWorse ? kFindings : kSuccess));
   return ConcludeStatistics(before, ConcludeStatistics(after, status));

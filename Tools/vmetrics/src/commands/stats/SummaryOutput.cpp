@@ -21,9 +21,9 @@ std::vector<std::string> ShownValues(const Summary& summary) {
   if (summary.isMasked) {
     return std::vector<std::string>(5, std::string(kMask));
   }
-  const char* sign = figures.relativeError > 0 ? "~" : "";
-  return {ShownValue(figures.least), sign + ShownValue(figures.median),
-          sign + ShownValue(figures.percentile95), sign + ShownValue(figures.percentile99),
+  const double error = figures.relativeError;
+  return {ShownValue(figures.least), ShownValue(figures.median, error),
+          ShownValue(figures.percentile95, error), ShownValue(figures.percentile99, error),
           ShownValue(figures.greatest)};
 }
 
@@ -74,7 +74,7 @@ using Summaries = std::vector<Summary>::const_iterator;
 void WriteTable(Table table, Summaries begin, Summaries end, Period period) {
   for (Summaries summary = begin; summary != end; ++summary) {
     const SeriesKey& key = summary->key;
-    if (period == Period::None) {
+    if (period == Period::kNone) {
       AddSummary(table, *summary, LabelOf(key));
       continue;
     }
@@ -107,8 +107,7 @@ void WriteTables(const std::vector<Summary>& summaries, Period period) {
     error = std::max(error, summary.figures.relativeError);
   }
   if (error > 0) {
-    Write(
-        fmt::format("\n~ within {:.2g}%: there are too many values to count each\n", error * 100));
+    Write('\n' + ErrorLegend(error));
   }
 }
 
@@ -162,7 +161,7 @@ std::string CsvLineOf(const Summary& summary, Period period) {
     return summary.isMasked ? std::string(kMask) : ExactValue(number);
   };
   return CsvLine({key.IsStep() ? "step" : "metric", key.IsStep() ? "" : std::to_string(*key.id),
-                  key.name, period == Period::None ? "" : PeriodText(period, key.period),
+                  key.name, period == Period::kNone ? "" : PeriodText(period, key.period),
                   std::to_string(figures.count),
                   key.IsStep() ? std::to_string(figures.failures) : "",
                   std::to_string(figures.unusable), value(figures.least), value(figures.median),

@@ -52,6 +52,17 @@ std::size_t OutputWidth() {
   return isTerminal ? size.ws_col : kUsualWidth;
 }
 
+bool HasUtf8Locale() {
+  for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"}) {
+    if (IsSet(variable)) {
+      // The name is enough: a locale that is not installed is one that the terminal may have.
+      const std::string_view name = std::getenv(variable);  // NOLINT(concurrency-mt-unsafe)
+      return name.find("UTF-8") != name.npos || name.find("utf8") != name.npos;
+    }
+  }
+  return false;
+}
+
 std::string Styled(Style style, std::string_view text) {
   static const bool hasColours = HasColours();
   return hasColours && style != Style::Plain ? fmt::format("\033[{}m{}\033[0m", CodeOf(style), text)

@@ -18,6 +18,10 @@ enum ExitStatus : int {
 /// Columns of standard output where it is a terminal, otherwise 80.
 std::size_t OutputWidth();
 
+/// Whether the user's locale, as LC_ALL, LC_CTYPE or LANG names it, is one of UTF-8: whether more
+/// than ASCII may be shown where that is our choice.
+bool HasUtf8Locale();
+
 /// How a text stands out, where there are colours.
 enum class Style { Plain, Bold, Dim, Red, Green, Yellow };
 

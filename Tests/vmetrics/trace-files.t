@@ -1,0 +1,85 @@
+Lines that a crash has left, with a logger's prefix, with carriage returns and without a last line
+break:
+
+  $ cp "$TESTDIR/data/trace/agent.log" whole.log
+  $ vmetrics trace whole.log >usual
+  $ sed 's/^/Nov 21 16:04:21 host agent[731]: INFO /' whole.log | vmetrics trace | cmp - usual
+  $ sed 's/$/\r/' whole.log | vmetrics trace | cmp - usual
+  $ printf %s "$(cat whole.log)" | vmetrics trace | cmp - usual
+  $ tr -d '\n' <whole.log >glued.log
+  $ vmetrics trace glued.log | cmp - usual
+  vmetrics: 5 records recovered from damaged lines, 0 fragments without any left out
+  $ (head -c 100 whole.log; cat whole.log; tail -n 1 whole.log | head -c 200) >torn.log
+  $ vmetrics trace torn.log | cmp - usual
+  vmetrics: 1 record recovered from damaged lines, 2 fragments without any left out
+  $ sed 's/"spanId":"/&\x00/' whole.log | vmetrics trace
+  vmetrics: the logs hold no step
+  vmetrics: 0 records recovered from damaged lines, 4 fragments without any left out
+  [1]
+
+No step in it:
+
+  $ : >empty.log
+  $ vmetrics trace empty.log
+  vmetrics: the logs hold no step
+  [1]
+  $ head -c 10000 /dev/zero | vmetrics trace
+  vmetrics: the logs hold no step
+  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
+  [1]
+  $ printf '\377\376{"a":\001}\n[]\n{}\nnull\n' | vmetrics trace
+  vmetrics: the logs hold no step
+  vmetrics: 0 records recovered from damaged lines, 3 fragments without any left out
+  [1]
+  $ vmetrics trace --format json empty.log
+  []
+  vmetrics: the logs hold no step
+  [1]
+
+Files that cannot be read do not keep the others from being shown:
+
+  $ mkdir directory
+  $ vmetrics trace missing.log directory whole.log >shown
+  vmetrics: missing.log: No such file or directory
+  vmetrics: directory: Is a directory
+  [2]
+  $ cmp shown usual
+  $ gzip -c whole.log | head -c 200 >cut.log.gz
+  $ vmetrics trace cut.log.gz >/dev/null
+  vmetrics: cut.log.gz: the compressed data ends too early
+  vmetrics: the logs hold no step
+  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
+  [2]
+
+Output that cannot be written:
+
+  $ vmetrics trace whole.log >/dev/full
+  vmetrics: standard output: No space left on device
+  [2]
+
+Wrong usage:
+
+  $ vmetrics trace --last 0 whole.log
+  vmetrics: --last: Value 0 not in range 1 to 1000000000; see vmetrics --help
+  [2]
+  $ vmetrics trace --last many whole.log
+  vmetrics: --last: Value many not in range 1 to 1000000000; see vmetrics --help
+  [2]
+  $ vmetrics trace --last
+  vmetrics: --last: 1 required N missing; see vmetrics --help
+  [2]
+  $ vmetrics trace --slower-than -1 whole.log
+  vmetrics: --slower-than: Value -1 not in range 0 to 253402300799999; see vmetrics --help
+  [2]
+  $ vmetrics trace --slower-than 1s whole.log
+  vmetrics: --slower-than: Value 1s not in range 0 to 253402300799999; see vmetrics --help
+  [2]
+  $ vmetrics trace --format xml whole.log
+  vmetrics: --format: xml not in {text,json}; see vmetrics --help
+  [2]
+  $ vmetrics trace --transaction
+  vmetrics: --transaction: 1 required ID missing; see vmetrics --help
+  [2]
+  $ vmetrics trace --unknown whole.log
+  vmetrics: The following argument was not expected: --unknown; see vmetrics --help
+  [2]

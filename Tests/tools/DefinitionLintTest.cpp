@@ -20,7 +20,7 @@ class DefinitionLintTest : public testing::Test {
   std::vector<std::string> Rules(std::string_view line,
                                  DefinitionKind kind = DefinitionKind::kNumeric) {
     std::vector<std::string> rules;
-    for (const Finding& finding : linter_.Lint(kind, {file_, ++number_}, line).findings) {
+    for (const LintFinding& finding : linter_.Lint(kind, {file_, ++number_}, line).findings) {
       rules.emplace_back(finding.rule);
     }
     return rules;

@@ -230,8 +230,8 @@ How it is used:
   
   Options:
     -h,--help                   Print this help message and exit
-    --definitions FILE          Also know the metrics with a numeric ID that FILE defines, "ID;type;name;private" one a line; may be given again
-    --event-definitions FILE    Also know the metrics with an event ID that FILE defines, "event ID;type;name;private" one a line; may be given again
+    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a line; may be repeated
+    --event-definitions FILE    The same for metrics with an event ID
     --ignore KIND               Leave findings of the kind out; several are separated by commas
     --max N                     Write at most N findings, but count all
     --format FORMAT             text, json; without this option text

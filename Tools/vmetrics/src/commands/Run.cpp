@@ -97,9 +97,9 @@ void Configure(const StepOptions& options) {
   }
 }
 
-class Step {
+class RunningStep {
  public:
-  explicit Step(const StepOptions& options)
+  explicit RunningStep(const StepOptions& options)
       : options_(options),
         transactionId_(options.transactionId ? *options.transactionId : VMetrics::GenerateUuid()) {}
 
@@ -155,7 +155,7 @@ int RunStep(const StepOptions& options, char** command) {
   Check(options, command);
   OccupyStandardStreams();
   Configure(options);
-  const Step step(options);
+  const RunningStep step(options);
   step.Start();
   const HeldSignals signals;
   const StartedCommand started(command, signals);

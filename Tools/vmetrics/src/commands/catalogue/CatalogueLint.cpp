@@ -28,7 +28,7 @@ int Lint(const Definitions& definitions, bool isJson) {
       report.Add(file.kind, place, linter.Lint(file.kind, place, line));
     };
     const auto overlong = [&](const LinePlace& place) {
-      Verdict verdict;
+      DefinitionVerdict verdict;
       verdict.isRefused = true;
       verdict.findings.push_back({"line-length", fmt::format("the line has more than {} bytes",
                                                              LineCutter::kLongestLine)});

@@ -37,14 +37,15 @@ DefinitionLinter::DefinitionLinter() {
   }
 }
 
-Verdict DefinitionLinter::Lint(DefinitionKind kind, const LinePlace& place, std::string_view line) {
-  Verdict verdict;
+DefinitionVerdict DefinitionLinter::Lint(DefinitionKind kind, const LinePlace& place,
+                                         std::string_view line) {
+  DefinitionVerdict verdict;
   std::string refusal = Refusal(kind, line);
   verdict.isRefused = RegisterDefinition(kind, line) != VMETRICS_OK;
   if (verdict.isRefused) {
     verdict.findings.push_back({"refused", std::move(refusal)});
   }
-  std::vector<Finding> inLine = FindingsInLine(kind, place.number, line);
+  std::vector<LintFinding> inLine = FindingsInLine(kind, place.number, line);
   std::move(inLine.begin(), inLine.end(), std::back_inserter(verdict.findings));
   if (!verdict.isRefused) {
     LookAtStored(kind, place, DefinitionFields(line).id, verdict);
@@ -66,7 +67,7 @@ std::string DefinitionLinter::Refusal(DefinitionKind kind, std::string_view line
 }
 
 void DefinitionLinter::LookAtStored(DefinitionKind kind, const LinePlace& place,
-                                    std::string_view id, Verdict& verdict) {
+                                    std::string_view id, DefinitionVerdict& verdict) {
   const std::string where = fmt::format("{}:{}", Printable(place.file), place.number);
   std::string clash;
   if (kind == DefinitionKind::kNumeric) {

@@ -15,15 +15,15 @@
 namespace vmetrics {
 
 /// A reason why a line is refused or may surprise, fit for a terminal.
-struct Finding {
+struct LintFinding {
   const char* rule;  ///< Its short name, for those who pick.
   std::string reason;
 };
 
 /// What a definition became.
-struct Verdict {
+struct DefinitionVerdict {
   bool isRefused = false;
-  std::vector<Finding> findings;  ///< Of a refused one the first is why.
+  std::vector<LintFinding> findings;  ///< Of a refused one the first is why.
   // What the catalogue holds now; of a refused definition nothing.
   std::string eventId;  ///< As metrics lines show it.
   int id = 0;           ///< Of a numeric one.
@@ -37,14 +37,14 @@ class DefinitionLinter {
   DefinitionLinter();
 
   /// `line` as ReadDefinitions gives it.
-  Verdict Lint(DefinitionKind kind, const LinePlace& place, std::string_view line);
+  DefinitionVerdict Lint(DefinitionKind kind, const LinePlace& place, std::string_view line);
 
  private:
   std::string Refusal(DefinitionKind kind, std::string_view line) const;
   std::string NameClash(int id, const MetricEntry& entry) const;
   std::string NameClash(const std::string& eventId, const MetricEntry& entry) const;
   void LookAtStored(DefinitionKind kind, const LinePlace& place, std::string_view id,
-                    Verdict& verdict);
+                    DefinitionVerdict& verdict);
 
   // Where definitions came from; nothing about those that are built in.
   std::map<int, std::string> places_;

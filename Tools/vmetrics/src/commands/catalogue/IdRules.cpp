@@ -51,9 +51,9 @@ std::string BreachOfConvention(int id) {
 
 }  // namespace
 
-std::vector<Finding> FindingsInId(std::string_view text) {
+std::vector<LintFinding> FindingsInId(std::string_view text) {
   const DecimalId id(text);
-  std::vector<Finding> findings;
+  std::vector<LintFinding> findings;
   if (id.key == 0) {
     return findings;
   }

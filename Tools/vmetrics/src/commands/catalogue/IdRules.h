@@ -11,7 +11,7 @@ namespace vmetrics {
 
 /// About the first field of a numeric definition. Nothing about one that counts as 0, which is
 /// refused.
-std::vector<Finding> FindingsInId(std::string_view text);
+std::vector<LintFinding> FindingsInId(std::string_view text);
 
 }  // namespace vmetrics
 

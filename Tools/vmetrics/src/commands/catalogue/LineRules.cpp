@@ -37,7 +37,7 @@ class LineRules {
  public:
   LineRules(DefinitionKind kind, std::string_view line) : kind_(kind), line_(line), fields_(line) {}
 
-  std::vector<Finding> Findings(std::uint64_t number) {
+  std::vector<LintFinding> Findings(std::uint64_t number) {
     CheckBytes(number);
     if (fields_.hasEmpty) {
       Add("empty-field", "an empty field does not count: those behind it move forward");
@@ -97,7 +97,7 @@ class LineRules {
 
   void CheckId() {
     if (kind_ == DefinitionKind::kNumeric) {
-      std::vector<Finding> inId = FindingsInId(fields_.id);
+      std::vector<LintFinding> inId = FindingsInId(fields_.id);
       std::move(inId.begin(), inId.end(), std::back_inserter(findings_));
     } else if (fields_.id.size() > kLongestEventId) {
       Add("event-id-length", fmt::format("the event ID has {} bytes, a record has room for {}",
@@ -115,13 +115,13 @@ class LineRules {
   const DefinitionKind kind_;
   const std::string_view line_;
   const DefinitionFields fields_;
-  std::vector<Finding> findings_;
+  std::vector<LintFinding> findings_;
 };
 
 }  // namespace
 
-std::vector<Finding> FindingsInLine(DefinitionKind kind, std::uint64_t number,
-                                    std::string_view line) {
+std::vector<LintFinding> FindingsInLine(DefinitionKind kind, std::uint64_t number,
+                                        std::string_view line) {
   return LineRules(kind, line).Findings(number);
 }
 

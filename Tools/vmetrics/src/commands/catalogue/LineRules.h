@@ -11,8 +11,8 @@
 namespace vmetrics {
 
 /// About the line `number` of a file, as ReadDefinitions gives it.
-std::vector<Finding> FindingsInLine(DefinitionKind kind, std::uint64_t number,
-                                    std::string_view line);
+std::vector<LintFinding> FindingsInLine(DefinitionKind kind, std::uint64_t number,
+                                        std::string_view line);
 
 }  // namespace vmetrics
 

@@ -17,7 +17,7 @@ void WriteLine(const LinePlace& place, Style style, std::string_view what, std::
                     text));
 }
 
-std::string StoredText(DefinitionKind kind, const Verdict& verdict) {
+std::string StoredText(DefinitionKind kind, const DefinitionVerdict& verdict) {
   const std::string id = kind == DefinitionKind::kNumeric
                              ? fmt::format("{} ({})", verdict.eventId, HexadecimalId(verdict.id))
                              : fmt::format("\"{}\"", verdict.eventId);
@@ -25,7 +25,7 @@ std::string StoredText(DefinitionKind kind, const Verdict& verdict) {
                                verdict.entry->at(0), verdict.entry->at(1), verdict.entry->at(2)));
 }
 
-VJson::Value StoredObject(DefinitionKind kind, const Verdict& verdict) {
+VJson::Value StoredObject(DefinitionKind kind, const DefinitionVerdict& verdict) {
   VJson::Value stored;
   stored.AddJsonValue("eventId", verdict.eventId);
   if (kind == DefinitionKind::kNumeric) {
@@ -39,14 +39,15 @@ VJson::Value StoredObject(DefinitionKind kind, const Verdict& verdict) {
 
 }  // namespace
 
-void LintReport::Add(DefinitionKind kind, const LinePlace& place, const Verdict& verdict) {
+void LintReport::Add(DefinitionKind kind, const LinePlace& place,
+                     const DefinitionVerdict& verdict) {
   ++definitions_;
   if (verdict.findings.empty()) {
     return;
   }
   ++(verdict.isRefused ? refused_ : surprising_);
   for (std::size_t at = 0; at < verdict.findings.size(); ++at) {
-    const Finding& finding = verdict.findings[at];
+    const LintFinding& finding = verdict.findings[at];
     const bool isRefusal = verdict.isRefused && at == 0;
     if (isJson_) {
       AddObject(kind, place, verdict, finding, isRefusal);
@@ -72,8 +73,9 @@ int LintReport::Finish() {
   return hasFindings ? kFindings : kSuccess;
 }
 
-void LintReport::AddObject(DefinitionKind kind, const LinePlace& place, const Verdict& verdict,
-                           const Finding& finding, bool isRefusal) {
+void LintReport::AddObject(DefinitionKind kind, const LinePlace& place,
+                           const DefinitionVerdict& verdict, const LintFinding& finding,
+                           bool isRefusal) {
   VJson::Value object;
   object.AddJsonValue("file", place.file);
   object.AddJsonValue("line", static_cast<unsigned long>(place.number));

@@ -14,14 +14,14 @@ class LintReport {
   /// `isJson`: for programs, an array with an object for each finding; otherwise for people.
   explicit LintReport(bool isJson) : isJson_(isJson) {}
 
-  void Add(DefinitionKind kind, const LinePlace& place, const Verdict& verdict);
+  void Add(DefinitionKind kind, const LinePlace& place, const DefinitionVerdict& verdict);
 
   /// Returns the exit status.
   int Finish();
 
  private:
-  void AddObject(DefinitionKind kind, const LinePlace& place, const Verdict& verdict,
-                 const Finding& finding, bool isRefusal);
+  void AddObject(DefinitionKind kind, const LinePlace& place, const DefinitionVerdict& verdict,
+                 const LintFinding& finding, bool isRefusal);
 
   const bool isJson_;
   JsonArray array_;

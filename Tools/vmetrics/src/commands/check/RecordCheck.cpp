@@ -39,28 +39,28 @@ constexpr std::string_view kUnregistered = "nox_user_operation";
 /// The event of a client's connecting, whose args are those of a step.
 constexpr std::string_view kConnecting = "nox_user_connect";
 
-enum class RecordKind { Numeric, Event, Step, None };
+enum class LineKind { Numeric, Event, Step, None };
 
 /// Tells the kinds apart by a member that only one of them has, or else by what is left.
-RecordKind KindOf(const LogEntry& entry) {
+LineKind KindOf(const LogEntry& entry) {
   for (const Member& member : entry.members) {
     if (member.key == "moduleId") {
-      return RecordKind::Numeric;
+      return LineKind::Numeric;
     }
     if (member.key == "spanId" || member.key == "parentSpanId") {
-      return RecordKind::Step;
+      return LineKind::Step;
     }
     if (member.key == "businessType" || member.key == "serviceName" || member.key == "userName") {
-      return RecordKind::Event;
+      return LineKind::Event;
     }
   }
   if (entry.FindInArgs("stepName") != nullptr && entry.FindInArgs("errorCode") != nullptr) {
-    return RecordKind::Step;
+    return LineKind::Step;
   }
   if (NumericId(entry.Text("eventId"))) {
-    return RecordKind::Numeric;
+    return LineKind::Numeric;
   }
-  return entry.Find("eventId") != nullptr ? RecordKind::Event : RecordKind::None;
+  return entry.Find("eventId") != nullptr ? LineKind::Event : LineKind::None;
 }
 
 std::uint64_t ModuleOf(int id) { return static_cast<std::uint32_t>(id) >> 16U; }
@@ -69,16 +69,16 @@ std::uint64_t ModuleOf(int id) { return static_cast<std::uint32_t>(id) >> 16U; }
 
 void RecordCheck::Check(const Place& place, const LogEntry& entry) {
   switch (KindOf(entry)) {
-    case RecordKind::Numeric:
+    case LineKind::Numeric:
       CheckNumeric(place, entry);
       break;
-    case RecordKind::Event:
+    case LineKind::Event:
       CheckEvent(place, entry);
       break;
-    case RecordKind::Step:
+    case LineKind::Step:
       steps_.Check(place, entry);
       break;
-    case RecordKind::None:
+    case LineKind::None:
       findings_.Add(FindingKind::NoRecord, place, "a JSON object, but no record of the library");
       break;
   }

@@ -79,3 +79,5 @@ Nobody reads standard error, or there is none:
   [5]
   $ error_code
   5
+  $ vmetrics run --step s --metrics log -- no-such-command <&- >&- 2>&-
+  [127]

@@ -53,10 +53,9 @@ A command that has its own way with a signal keeps it; one that has not is ended
   $ error_code
   9
   $ vmetrics run --step s --metrics log -- sh -c 'echo >ready; exec sleep 60' &
-  $ read line <ready; kill -USR1 $!; wait $!; echo $?; error_code
-  User defined signal 1
-  138
-  138
+  $ read line <ready; kill -PIPE $!; wait $!; echo $?; error_code
+  141
+  141
 
 The value of a queued signal comes along:
 
@@ -142,9 +141,8 @@ nobody would tell, has not stopped with it:
   $ read line <ready
   $ stopped() { grep -q '^State:.T' /proc/$1/status; }
   $ kill -STOP $(cat pid); until stopped $(cat pid); do :; done
-  $ kill -USR1 $!; until grep -q 'ShdPnd:.*200$' /proc/$(cat pid)/status; do :; done
+  $ kill -PIPE $!; until grep -q 'ShdPnd:.*1000$' /proc/$(cat pid)/status; do :; done
   $ stopped $!
   [1]
   $ kill -CONT $(cat pid); wait $!
-  User defined signal 1
-  [138]
+  [141]

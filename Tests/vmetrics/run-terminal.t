@@ -208,6 +208,17 @@ A command that leaves the group, as timeout does, still hears the terminal, with
   $ error_code
   4
 
+  $ "$TESTDIR/terminal" <<'END'
+  > await shell>
+  > type vmetrics run --step s --metrics log -- setsid sh -c './sleeping; exit 9'
+  > await started
+  > press C
+  > await told
+  > await shell>
+  > END
+  $ error_code
+  130
+
 A shell with jobs of its own:
 
   $ "$TESTDIR/terminal" <<'END'

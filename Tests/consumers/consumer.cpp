@@ -1,4 +1,5 @@
-// What a component does first: a metric of its own, rendered. In the oldest C++ that the header takes.
+// What a component does first: a metric of its own, rendered. In the oldest C++ that the header
+// takes.
 #include <VMetrics.h>
 
 #include <cstdio>

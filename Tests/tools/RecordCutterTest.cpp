@@ -34,7 +34,7 @@ TEST_F(RecordCutterTest, AnyCuttingIntoPiecesGivesTheSameRecords) {
     SCOPED_TRACE(size);
     records_.clear();
     offsets_.clear();
-    RecordCutter cutter(RecordKind::Numeric);
+    RecordCutter cutter(RecordKind::kNumeric);
     for (std::size_t at = 0; at < all.size(); at += size) {
       Add(cutter, std::string_view(all).substr(at, size));
     }
@@ -48,7 +48,7 @@ TEST_F(RecordCutterTest, AnyCuttingIntoPiecesGivesTheSameRecords) {
 
 TEST_F(RecordCutterTest, MessageIsCutByTheRecordThatItCarries) {
   const std::string message = Message(1, 2, 3, NumericRecord(7, 302645249, ValueBytes(60)));
-  RecordCutter cutter(RecordKind::Message);
+  RecordCutter cutter(RecordKind::kMessage);
   Add(cutter, message + message);
   EXPECT_THAT(records_, ElementsAre(message, message));
 }
@@ -57,7 +57,7 @@ TEST_F(RecordCutterTest, RecordWithEventIdIsCutByItsOwnLength) {
   TextRecord record;
   record.eventId = "nox_user_connect";
   record.value = "{}";
-  RecordCutter cutter(RecordKind::String);
+  RecordCutter cutter(RecordKind::kString);
   Add(cutter, record.Bytes() + record.Bytes());
   EXPECT_THAT(records_, ElementsAre(record.Bytes(), record.Bytes()));
 }
@@ -65,7 +65,7 @@ TEST_F(RecordCutterTest, RecordWithEventIdIsCutByItsOwnLength) {
 TEST_F(RecordCutterTest, LongestLengthThatIsOneIsPassed) {
   const std::string longest = NumericRecord(7, 302645253, std::string(65536, 'x'));
   const std::string next = NumericRecord(7, 302645249, "");
-  RecordCutter cutter(RecordKind::Numeric);
+  RecordCutter cutter(RecordKind::kNumeric);
   Add(cutter, longest + next);
   EXPECT_THAT(records_, ElementsAre(longest, next));
 }
@@ -76,7 +76,7 @@ TEST_F(RecordCutterTest, NothingIsTakenBehindALengthThatIsNone) {
   for (const std::size_t size : {std::size_t{1}, std::size_t{100000}}) {
     SCOPED_TRACE(size);
     records_.clear();
-    RecordCutter cutter(RecordKind::Numeric);
+    RecordCutter cutter(RecordKind::kNumeric);
     const std::string all = next + header + std::string(65537, 'x') + next;
     for (std::size_t at = 0; at < all.size(); at += size) {
       Add(cutter, std::string_view(all).substr(at, size));
@@ -89,7 +89,7 @@ TEST_F(RecordCutterTest, NothingIsTakenBehindALengthThatIsNone) {
 }
 
 TEST_F(RecordCutterTest, NothingIsMadeOfNothing) {
-  RecordCutter cutter(RecordKind::Numeric);
+  RecordCutter cutter(RecordKind::kNumeric);
   Add(cutter, "");
   EXPECT_THAT(records_, IsEmpty());
   EXPECT_THAT(cutter.Rest(), IsEmpty());

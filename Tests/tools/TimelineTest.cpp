@@ -156,10 +156,10 @@ TEST_F(TimelineTest, StepsWithOddTimesDoNotCountForTheScale) {
   const Timeline timeline = Make();
   EXPECT_EQ(timeline.start, kNow + 100);
   EXPECT_EQ(timeline.end, kNow + 200);
-  EXPECT_EQ(timeline.Count(Placement::InScale), 1U);
-  EXPECT_EQ(timeline.Count(Placement::EndsBeforeStart), 1U);
-  EXPECT_EQ(timeline.Count(Placement::FarAway), 2U);
-  EXPECT_EQ(timeline.Count(Placement::NoDate), 3U);
+  EXPECT_EQ(timeline.Count(Placement::kInScale), 1U);
+  EXPECT_EQ(timeline.Count(Placement::kEndsBeforeStart), 1U);
+  EXPECT_EQ(timeline.Count(Placement::kFarAway), 2U);
+  EXPECT_EQ(timeline.Count(Placement::kNoDate), 3U);
   EXPECT_THAT(Show(timeline), ElementsAre("since 1970", "until 9999", "a*", "set back", "none",
                                           "before 1970", "no date"));
 }

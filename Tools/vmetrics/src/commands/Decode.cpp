@@ -40,7 +40,7 @@ class Decode {
   Definitions definitions_;
 
   const bool isTerminal_ = isatty(STDOUT_FILENO) == 1;
-  RecordKind kind_ = RecordKind::Numeric;
+  RecordKind kind_ = RecordKind::kNumeric;
   Progress progress_;
   int status_ = kSuccess;
 };
@@ -68,7 +68,9 @@ int Decode::Run() {
     throw UsageError("decode takes one of --numeric, --string and --message");
   }
   definitions_.Register();
-  kind_ = isString_ ? RecordKind::String : isMessage_ ? RecordKind::Message : RecordKind::Numeric;
+  kind_ = isString_    ? RecordKind::kString
+          : isMessage_ ? RecordKind::kMessage
+                       : RecordKind::kNumeric;
   for (const std::string& file : files_.empty() ? std::vector<std::string>{"-"} : files_) {
     try {
       DecodeFile(file);

@@ -53,7 +53,7 @@ class Encode {
   std::vector<CLI::Option*> messageOptions_;
   Definitions definitions_;
 
-  RecordKind kind_ = RecordKind::Numeric;
+  RecordKind kind_ = RecordKind::kNumeric;
 };
 
 void Encode::AddTo(CLI::App& command) {
@@ -133,13 +133,13 @@ const MetricEntry* Encode::TakeId() {
   const std::optional<int> number = isString_ ? std::nullopt : ParseMetricId(id_);
   if (number) {
     RefuseOptions(stringOptions_, "an event ID");
-    kind_ = isMessage_ ? RecordKind::Message : RecordKind::Numeric;
+    kind_ = isMessage_ ? RecordKind::kMessage : RecordKind::kNumeric;
     header_.metricId = static_cast<std::uint32_t>(*number);
   } else {
     if (isMessage_) {
       throw UsageError(fmt::format("--message needs a metric with a number, not \"{}\"", id_));
     }
-    kind_ = RecordKind::String;
+    kind_ = RecordKind::kString;
     header_.eventId = id_;
   }
   if (!isMessage_) {
@@ -171,11 +171,11 @@ std::vector<std::string> Encode::Values(const MetricEntry* metric) const {
 
 std::string Encode::Packed(const std::string& value) const {
   switch (kind_) {
-    case RecordKind::String:
+    case RecordKind::kString:
       return PackedString(header_, value);
-    case RecordKind::Message:
+    case RecordKind::kMessage:
       return PackedMessage(header_, value);
-    case RecordKind::Numeric:
+    case RecordKind::kNumeric:
       break;
   }
   return PackedNumeric(header_, value);

@@ -9,7 +9,7 @@ namespace vmetrics {
 namespace {
 
 std::string Field(std::string_view text) {
-  const std::string printable = Printable(text);
+  std::string printable = Printable(text);
   if (printable.find_first_of(",\"") == printable.npos) {
     return printable;
   }

@@ -24,7 +24,7 @@ std::string OwnLine(Style style, std::string_view text, std::size_t width) {
 
 }  // namespace
 
-Table::Table(std::vector<std::string> headings) { AddRow(std::move(headings), Style::Bold); }
+Table::Table(std::vector<std::string> headings) { AddRow(std::move(headings), Style::kBold); }
 
 void Table::AddRow(std::vector<std::string> cells, Style style) {
   rows_.push_back({std::move(cells), style});

@@ -21,10 +21,10 @@ class Table {
   explicit Table(std::vector<std::string> headings);
 
   /// As many cells as there are headings, the first one the label.
-  void AddRow(std::vector<std::string> cells, Style style = Style::Plain);
+  void AddRow(std::vector<std::string> cells, Style style = Style::kPlain);
 
   /// A line of its own.
-  void AddLine(std::string text, Style style = Style::Plain);
+  void AddLine(std::string text, Style style = Style::kPlain);
 
   /// The lines, for an output of so many columns.
   std::string Text(std::size_t width) const;

@@ -28,17 +28,17 @@ bool HasColours() {
 
 const char* CodeOf(Style style) {
   switch (style) {
-    case Style::Bold:
+    case Style::kBold:
       return "1";
-    case Style::Dim:
+    case Style::kDim:
       return "2";
-    case Style::Red:
+    case Style::kRed:
       return "31";
-    case Style::Green:
+    case Style::kGreen:
       return "32";
-    case Style::Yellow:
+    case Style::kYellow:
       return "33";
-    case Style::Plain:
+    case Style::kPlain:
       break;
   }
   return "0";
@@ -65,8 +65,9 @@ bool HasUtf8Locale() {
 
 std::string Styled(Style style, std::string_view text) {
   static const bool hasColours = HasColours();
-  return hasColours && style != Style::Plain ? fmt::format("\033[{}m{}\033[0m", CodeOf(style), text)
-                                             : std::string(text);
+  return hasColours && style != Style::kPlain
+             ? fmt::format("\033[{}m{}\033[0m", CodeOf(style), text)
+             : std::string(text);
 }
 
 void Write(std::string_view text) { std::fwrite(text.data(), 1, text.size(), stdout); }

@@ -23,7 +23,7 @@ std::size_t OutputWidth();
 bool HasUtf8Locale();
 
 /// How a text stands out, where there are colours.
-enum class Style { Plain, Bold, Dim, Red, Green, Yellow };
+enum class Style { kPlain, kBold, kDim, kRed, kGreen, kYellow };
 
 /// `text` in that style, if standard output is a terminal, NO_COLOR is unset or empty and TERM is
 /// not "dumb"; otherwise as it is.

@@ -19,7 +19,7 @@ std::optional<Number> NumberIn(const Member& member) {
   Number number;
   const char* end = member.text.data() + member.text.size();
   const std::from_chars_result result = std::from_chars(member.text.data(), end, number);
-  if (member.kind != JsonKind::Number || result.ec != std::errc() || result.ptr != end) {
+  if (member.kind != JsonKind::kNumber || result.ec != std::errc() || result.ptr != end) {
     return std::nullopt;
   }
   return number;
@@ -32,19 +32,19 @@ std::string_view WithoutTrailingBlanks(std::string_view text) {
 JsonKind KindOf(ondemand::json_type type) {
   switch (type) {
     case ondemand::json_type::object:
-      return JsonKind::Object;
+      return JsonKind::kObject;
     case ondemand::json_type::array:
-      return JsonKind::Array;
+      return JsonKind::kArray;
     case ondemand::json_type::string:
-      return JsonKind::String;
+      return JsonKind::kString;
     case ondemand::json_type::number:
-      return JsonKind::Number;
+      return JsonKind::kNumber;
     case ondemand::json_type::boolean:
-      return JsonKind::Boolean;
+      return JsonKind::kBoolean;
     case ondemand::json_type::null:
       break;
   }
-  return JsonKind::Null;
+  return JsonKind::kNull;
 }
 
 }  // namespace
@@ -61,12 +61,12 @@ const Member* LogEntry::Find(const std::vector<Member>& members, std::string_vie
 
 std::string_view LogEntry::Text(std::string_view key) const {
   const Member* member = Find(key);
-  return member != nullptr && member->kind == JsonKind::String ? member->text : std::string_view();
+  return member != nullptr && member->kind == JsonKind::kString ? member->text : std::string_view();
 }
 
 bool LogEntry::IsStep() const {
   const Member* name = FindInArgs("stepName");
-  return !Text("spanId").empty() && name != nullptr && name->kind == JsonKind::String;
+  return !Text("spanId").empty() && name != nullptr && name->kind == JsonKind::kString;
 }
 
 struct LogEntryParser::Parser {

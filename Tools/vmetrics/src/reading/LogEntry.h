@@ -10,7 +10,7 @@
 
 namespace vmetrics {
 
-enum class JsonKind { Null, Boolean, Number, String, Object, Array };
+enum class JsonKind { kNull, kBoolean, kNumber, kString, kObject, kArray };
 
 /// A member of a JSON object.
 struct Member {

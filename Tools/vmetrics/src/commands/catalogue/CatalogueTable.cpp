@@ -65,7 +65,7 @@ std::string LineOf(const Columns& columns, CellOf cellOf) {
 void WriteColumns(const Columns& columns) {
   const std::string heading =
       LineOf(columns, [](const Column& column) { return std::string_view(column.heading); });
-  Write(Styled(Style::Bold, heading) + '\n');
+  Write(Styled(Style::kBold, heading) + '\n');
   for (std::size_t row = 0; row < columns.front().cells.size(); ++row) {
     Write(LineOf(columns,
                  [row](const Column& column) { return std::string_view(column.cells[row]); }) +

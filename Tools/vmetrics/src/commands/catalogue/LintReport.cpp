@@ -52,13 +52,13 @@ void LintReport::Add(DefinitionKind kind, const LinePlace& place,
     if (isJson_) {
       AddObject(kind, place, verdict, finding, isRefusal);
     } else if (isRefusal) {
-      WriteLine(place, Style::Red, "refused", finding.reason);
+      WriteLine(place, Style::kRed, "refused", finding.reason);
     } else {
-      WriteLine(place, Style::Yellow, "surprise", finding.reason);
+      WriteLine(place, Style::kYellow, "surprise", finding.reason);
     }
   }
   if (!isJson_ && !verdict.isRefused) {
-    WriteLine(place, Style::Plain, "stored", StoredText(kind, verdict));
+    WriteLine(place, Style::kPlain, "stored", StoredText(kind, verdict));
   }
 }
 

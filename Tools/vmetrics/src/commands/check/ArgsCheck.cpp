@@ -20,13 +20,13 @@ constexpr std::size_t kName = 1;
 /// How the values of a type are rendered; nothing for a type without any.
 std::optional<Want> WantOf(std::string_view type) {
   static constexpr std::array<std::pair<std::string_view, Want>, 7> kWants{
-      {{"string", Want::Text},
-       {"int", Want::Int},
-       {"uint64_t", Want::Uint64},
-       {"int64_t", Want::Int64},
-       {"double", Want::Double},
-       {"bool", Want::Boolean},
-       {"enum", Want::NumberText}}};
+      {{"string", Want::kText},
+       {"int", Want::kInt},
+       {"uint64_t", Want::kUint64},
+       {"int64_t", Want::kInt64},
+       {"double", Want::kDouble},
+       {"bool", Want::kBoolean},
+       {"enum", Want::kNumberText}}};
   for (const auto& [name, want] : kWants) {
     if (name == type) {
       return want;
@@ -42,14 +42,14 @@ void ArgsCheck::Check(const Place& place, std::string_view eventId, const Metric
   const Member* args = entry.Find("args");
   const bool isJson = metric[kType] == "json";
   if (args == nullptr) {
-    findings_.Add(FindingKind::NoArgs, place,
+    findings_.Add(FindingKind::kNoArgs, place,
                   fmt::format(isJson ? "the value of {} was not JSON"
                                      : "whoever wrote the line did not know {}",
                               Shortened(metric[kName])));
   } else if (isJson) {
     CheckAny(place, eventId, entry);
-  } else if (args->kind != JsonKind::Object) {
-    findings_.Add(FindingKind::Args, place, "args is no object");
+  } else if (args->kind != JsonKind::kObject) {
+    findings_.Add(FindingKind::kArgs, place, "args is no object");
   } else {
     CheckValue(place, eventId, metric, entry);
   }
@@ -73,7 +73,7 @@ void ArgsCheck::CheckAny(const Place& place, std::string_view eventId, const Log
   std::sort(keys_.begin(), keys_.end());
   const auto twice = std::adjacent_find(keys_.begin(), keys_.end());
   if (twice != keys_.end()) {
-    findings_.Add(FindingKind::DuplicateKey, place,
+    findings_.Add(FindingKind::kDuplicateKey, place,
                   fmt::format("{} is there more than once",
                               privacy_.IsMasked(eventId) ? std::string(kMask) : Shortened(*twice)));
   }

@@ -33,7 +33,7 @@ class ArgsCheck {
   const Privacy& privacy_;
   Findings& findings_;
   MemberCheck members_;
-  ObjectRules rules_{"args", {}, FindingKind::Args, FindingKind::Args};
+  ObjectRules rules_{"args", {}, FindingKind::kArgs, FindingKind::kArgs};
   std::vector<std::string_view> keys_;  ///< Kept for its memory.
 };
 

@@ -11,24 +11,24 @@
 namespace vmetrics {
 
 enum class FindingKind : std::uint8_t {
-  NotJson,
-  Glued,
-  TooLong,
-  NoRecord,
-  Member,
-  ExtraMember,
-  DuplicateKey,
-  UnknownId,
-  Args,
-  NoArgs,
-  SpanForm,
-  DuplicateSpan,
-  Time,
-  UsedTime,
-  IsSuccess,
-  ParentStep,
-  UnlockedParent,
-  MissingParent
+  kNotJson,
+  kGlued,
+  kTooLong,
+  kNoRecord,
+  kMember,
+  kExtraMember,
+  kDuplicateKey,
+  kUnknownId,
+  kArgs,
+  kNoArgs,
+  kSpanForm,
+  kDuplicateSpan,
+  kTime,
+  kUsedTime,
+  kIsSuccess,
+  kParentStep,
+  kUnlockedParent,
+  kMissingParent
 };
 
 struct FindingKindText {

@@ -63,7 +63,7 @@ void Findings::Write(const Finding& finding) const {
     vmetrics::Write(line.ToString() + '\n');
   } else {
     vmetrics::Write(fmt::format("{}: {}: {}\n", Describe(finding.place),
-                                Styled(Style::Yellow, kind), finding.message));
+                                Styled(Style::kYellow, kind), finding.message));
   }
 }
 

@@ -11,7 +11,7 @@ LogReader::Hooks LogCheck::Hooks() {
   hooks.entry = [this](const LinePlace& line, const LogEntry& entry) { TakeRecord(line, entry); };
   hooks.damaged = [this](const LinePlace& line, std::string_view text) { TakeDamaged(line, text); };
   hooks.overlong = [this](const LinePlace& line) {
-    findings_.Add(FindingKind::TooLong, PlaceOf(line),
+    findings_.Add(FindingKind::kTooLong, PlaceOf(line),
                   fmt::format("more than {} bytes", LineCutter::kLongestLine));
   };
   return hooks;
@@ -41,11 +41,12 @@ void LogCheck::TakeRecord(const LinePlace& line, const LogEntry& entry) {
 void LogCheck::TakeDamaged(const LinePlace& line, std::string_view text) {
   const Place place = PlaceOf(line);
   if (!(place == latest_)) {
-    findings_.Add(FindingKind::NotJson, place, "no JSON object in " + Counted(text.size(), "byte"));
+    findings_.Add(FindingKind::kNotJson, place,
+                  "no JSON object in " + Counted(text.size(), "byte"));
   } else if (recordsOnLine_ == 1) {
-    findings_.Add(FindingKind::Glued, place, "a record is glued to a fragment of another");
+    findings_.Add(FindingKind::kGlued, place, "a record is glued to a fragment of another");
   } else {
-    findings_.Add(FindingKind::Glued, place,
+    findings_.Add(FindingKind::kGlued, place,
                   fmt::format("{} records are glued to each other", recordsOnLine_));
   }
 }

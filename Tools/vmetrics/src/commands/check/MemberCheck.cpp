@@ -28,59 +28,59 @@ bool IsInt(const Member& member) {
 
 bool IsWanted(const Member& member, Want want) {
   switch (want) {
-    case Want::Anything:
+    case Want::kAnything:
       return true;
-    case Want::Text:
-      return member.kind == JsonKind::String;
-    case Want::NonEmptyText:
-      return member.kind == JsonKind::String && !member.text.empty();
-    case Want::NumberText:
-      return member.kind == JsonKind::String && IsNumberText(member.text);
-    case Want::ZeroText:
-      return member.kind == JsonKind::String && member.text == "0";
-    case Want::TwoText:
-      return member.kind == JsonKind::String && member.text == "2";
-    case Want::Int:
+    case Want::kText:
+      return member.kind == JsonKind::kString;
+    case Want::kNonEmptyText:
+      return member.kind == JsonKind::kString && !member.text.empty();
+    case Want::kNumberText:
+      return member.kind == JsonKind::kString && IsNumberText(member.text);
+    case Want::kZeroText:
+      return member.kind == JsonKind::kString && member.text == "0";
+    case Want::kTwoText:
+      return member.kind == JsonKind::kString && member.text == "2";
+    case Want::kInt:
       return IsInt(member);
-    case Want::Int64:
+    case Want::kInt64:
       return member.Integer().has_value();
-    case Want::Uint64:
+    case Want::kUint64:
       return member.Unsigned().has_value();
-    case Want::Double:  // The null is what becomes of a NaN.
-      return member.kind == JsonKind::Number || member.kind == JsonKind::Null;
-    case Want::Boolean:
-      return member.kind == JsonKind::Boolean;
-    case Want::Object:
-      return member.kind == JsonKind::Object;
+    case Want::kDouble:  // The null is what becomes of a NaN.
+      return member.kind == JsonKind::kNumber || member.kind == JsonKind::kNull;
+    case Want::kBoolean:
+      return member.kind == JsonKind::kBoolean;
+    case Want::kObject:
+      return member.kind == JsonKind::kObject;
   }
   return false;
 }
 
 std::string_view NameOf(Want want) {
   switch (want) {
-    case Want::Anything:
+    case Want::kAnything:
       break;
-    case Want::Text:
+    case Want::kText:
       return "a text";
-    case Want::NonEmptyText:
+    case Want::kNonEmptyText:
       return "a text of at least one character";
-    case Want::NumberText:
+    case Want::kNumberText:
       return "the text of a 32-bit number";
-    case Want::ZeroText:
+    case Want::kZeroText:
       return "\"0\"";
-    case Want::TwoText:
+    case Want::kTwoText:
       return "\"2\"";
-    case Want::Int:
+    case Want::kInt:
       return "a 32-bit number";
-    case Want::Int64:
+    case Want::kInt64:
       return "a 64-bit number";
-    case Want::Uint64:
+    case Want::kUint64:
       return "an unsigned 64-bit number";
-    case Want::Double:
+    case Want::kDouble:
       return "a number or null";
-    case Want::Boolean:
+    case Want::kBoolean:
       return "true or false";
-    case Want::Object:
+    case Want::kObject:
       return "an object";
   }
   return "anything";
@@ -88,31 +88,31 @@ std::string_view NameOf(Want want) {
 
 std::string_view NameOf(JsonKind kind) {
   switch (kind) {
-    case JsonKind::Null:
+    case JsonKind::kNull:
       return "null";
-    case JsonKind::Boolean:
+    case JsonKind::kBoolean:
       return "true or false";
-    case JsonKind::Number:
+    case JsonKind::kNumber:
       return "a number";
-    case JsonKind::String:
+    case JsonKind::kString:
       return "a text";
-    case JsonKind::Object:
+    case JsonKind::kObject:
       return "an object";
-    case JsonKind::Array:
+    case JsonKind::kArray:
       return "an array";
   }
   return "nothing";
 }
 
 std::string Describe(const Member& member, bool isMasked) {
-  if (member.kind == JsonKind::Object || member.kind == JsonKind::Array) {
+  if (member.kind == JsonKind::kObject || member.kind == JsonKind::kArray) {
     return std::string(NameOf(member.kind));
   }
-  if (isMasked && member.kind != JsonKind::Null) {
+  if (isMasked && member.kind != JsonKind::kNull) {
     return fmt::format("{} ({})", NameOf(member.kind), kMask);
   }
-  return member.kind == JsonKind::String ? '"' + Shortened(member.text) + '"'
-                                         : Shortened(member.text);
+  return member.kind == JsonKind::kString ? '"' + Shortened(member.text) + '"'
+                                          : Shortened(member.text);
 }
 
 /// The place of the rule for `key`, tried first at `guess`; the number of rules where there is
@@ -176,7 +176,7 @@ void MemberCheck::Assign(const Place& place, const ObjectRules& rules,
                   fmt::format("{}: not part of {}", extra.ToString(), rules.name));
   }
   if (repeated != nullptr) {
-    findings_.Add(FindingKind::DuplicateKey, place,
+    findings_.Add(FindingKind::kDuplicateKey, place,
                   fmt::format("{} is there more than once", Shortened(repeated->key)));
   }
 }

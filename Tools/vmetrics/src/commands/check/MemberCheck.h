@@ -15,18 +15,18 @@ namespace vmetrics {
 
 /// What the value of a member is to be.
 enum class Want : std::uint8_t {
-  Anything,
-  Text,
-  NonEmptyText,
-  NumberText,  ///< The decimal text of a signed number of 32 bits.
-  ZeroText,    ///< "0"
-  TwoText,     ///< "2"
-  Int,
-  Int64,
-  Uint64,
-  Double,
-  Boolean,
-  Object
+  kAnything,
+  kText,
+  kNonEmptyText,
+  kNumberText,  ///< The decimal text of a signed number of 32 bits.
+  kZeroText,    ///< "0"
+  kTwoText,     ///< "2"
+  kInt,
+  kInt64,
+  kUint64,
+  kDouble,
+  kBoolean,
+  kObject
 };
 
 struct MemberRule {
@@ -39,8 +39,8 @@ struct MemberRule {
 struct ObjectRules {
   std::string_view name;            ///< Of the object, in messages: "the step record".
   std::vector<MemberRule> members;  ///< All that there may be, best in their usual order.
-  FindingKind wrong = FindingKind::Member;
-  FindingKind extra = FindingKind::ExtraMember;
+  FindingKind wrong = FindingKind::kMember;
+  FindingKind extra = FindingKind::kExtraMember;
 };
 
 class MemberCheck {

@@ -14,23 +14,23 @@ namespace vmetrics {
 namespace {
 
 const ObjectRules kNumericRecord{"a numeric record",
-                                 {{"eventId", Want::NumberText},
-                                  {"timestamp", Want::Uint64},
-                                  {"moduleId", Want::Uint64},
-                                  {"terminalId", Want::NumberText},
-                                  {"args", Want::Anything, false}}};
+                                 {{"eventId", Want::kNumberText},
+                                  {"timestamp", Want::kUint64},
+                                  {"moduleId", Want::kUint64},
+                                  {"terminalId", Want::kNumberText},
+                                  {"args", Want::kAnything, false}}};
 constexpr std::size_t kModuleId = 2;
 
-const ObjectRules kEvent{"an event",
-                         {{"eventId", Want::Text},
-                          {"timestamp", Want::Uint64},
-                          {"terminalId", Want::NumberText},
-                          {"type", Want::NumberText},
-                          {"transactionId", Want::Text},
-                          {"businessType", Want::Text},
-                          {"serviceName", Want::Text},
-                          {"userName", Want::Text, true, true},
-                          {"args", Want::Anything, false}}};
+const ObjectRules kEventRecord{"an event",
+                               {{"eventId", Want::kText},
+                                {"timestamp", Want::kUint64},
+                                {"terminalId", Want::kNumberText},
+                                {"type", Want::kNumberText},
+                                {"transactionId", Want::kText},
+                                {"businessType", Want::kText},
+                                {"serviceName", Want::kText},
+                                {"userName", Want::kText, true, true},
+                                {"args", Want::kAnything, false}}};
 constexpr std::size_t kEventId = 0;
 
 /// The reporter's event that the library leaves to the host to register.
@@ -39,28 +39,28 @@ constexpr std::string_view kUnregistered = "nox_user_operation";
 /// The event of a client's connecting, whose args are those of a step.
 constexpr std::string_view kConnecting = "nox_user_connect";
 
-enum class LineKind { Numeric, Event, Step, None };
+enum class LineKind { kNumeric, kEvent, kStep, kNone };
 
 /// Tells the kinds apart by a member that only one of them has, or else by what is left.
 LineKind KindOf(const LogEntry& entry) {
   for (const Member& member : entry.members) {
     if (member.key == "moduleId") {
-      return LineKind::Numeric;
+      return LineKind::kNumeric;
     }
     if (member.key == "spanId" || member.key == "parentSpanId") {
-      return LineKind::Step;
+      return LineKind::kStep;
     }
     if (member.key == "businessType" || member.key == "serviceName" || member.key == "userName") {
-      return LineKind::Event;
+      return LineKind::kEvent;
     }
   }
   if (entry.FindInArgs("stepName") != nullptr && entry.FindInArgs("errorCode") != nullptr) {
-    return LineKind::Step;
+    return LineKind::kStep;
   }
   if (NumericId(entry.Text("eventId"))) {
-    return LineKind::Numeric;
+    return LineKind::kNumeric;
   }
-  return entry.Find("eventId") != nullptr ? LineKind::Event : LineKind::None;
+  return entry.Find("eventId") != nullptr ? LineKind::kEvent : LineKind::kNone;
 }
 
 std::uint64_t ModuleOf(int id) { return static_cast<std::uint32_t>(id) >> 16U; }
@@ -69,17 +69,17 @@ std::uint64_t ModuleOf(int id) { return static_cast<std::uint32_t>(id) >> 16U; }
 
 void RecordCheck::Check(const Place& place, const LogEntry& entry) {
   switch (KindOf(entry)) {
-    case LineKind::Numeric:
+    case LineKind::kNumeric:
       CheckNumeric(place, entry);
       break;
-    case LineKind::Event:
+    case LineKind::kEvent:
       CheckEvent(place, entry);
       break;
-    case LineKind::Step:
+    case LineKind::kStep:
       steps_.Check(place, entry);
       break;
-    case LineKind::None:
-      findings_.Add(FindingKind::NoRecord, place, "a JSON object, but no record of the library");
+    case LineKind::kNone:
+      findings_.Add(FindingKind::kNoRecord, place, "a JSON object, but no record of the library");
       break;
   }
 }
@@ -92,7 +92,7 @@ void RecordCheck::CheckNumeric(const Place& place, const LogEntry& entry) {
   const std::string_view eventId = found[kEventId]->text;
   const int id = NumericId(eventId).value_or(0);
   if (found[kModuleId] != nullptr && found[kModuleId]->Unsigned() != ModuleOf(id)) {
-    findings_.Add(FindingKind::Member, place,
+    findings_.Add(FindingKind::kMember, place,
                   fmt::format("moduleId is {}, but metric {} belongs to module {}",
                               found[kModuleId]->text, eventId, ModuleOf(id)));
   }
@@ -100,13 +100,13 @@ void RecordCheck::CheckNumeric(const Place& place, const LogEntry& entry) {
     args_.Check(place, eventId, *metric, entry);
     return;
   }
-  findings_.Add(FindingKind::UnknownId, place,
+  findings_.Add(FindingKind::kUnknownId, place,
                 fmt::format("metric {} is not in the catalogue", eventId));
   args_.CheckAny(place, eventId, entry);
 }
 
 void RecordCheck::CheckEvent(const Place& place, const LogEntry& entry) {
-  const auto& found = members_.Check(place, kEvent, entry.members);
+  const auto& found = members_.Check(place, kEventRecord, entry.members);
   if (found[kEventId] == nullptr) {
     return;
   }
@@ -122,7 +122,7 @@ void RecordCheck::CheckEvent(const Place& place, const LogEntry& entry) {
     return;
   }
   if (eventId != kUnregistered) {
-    findings_.Add(FindingKind::UnknownId, place,
+    findings_.Add(FindingKind::kUnknownId, place,
                   fmt::format("event \"{}\" is not in the catalogue", Shortened(eventId)));
   }
   args_.CheckAny(place, eventId, entry);

@@ -11,26 +11,26 @@ namespace vmetrics {
 namespace {
 
 const ObjectRules kStepRecord{"a step record",
-                              {{"eventId", Want::NonEmptyText, false},
-                               {"timestamp", Want::Uint64},
-                               {"terminalId", Want::ZeroText},
-                               {"type", Want::TwoText},
-                               {"transactionId", Want::NonEmptyText},
-                               {"spanId", Want::NonEmptyText},
-                               {"parentSpanId", Want::NonEmptyText, false},
-                               {"args", Want::Object}}};
+                              {{"eventId", Want::kNonEmptyText, false},
+                               {"timestamp", Want::kUint64},
+                               {"terminalId", Want::kZeroText},
+                               {"type", Want::kTwoText},
+                               {"transactionId", Want::kNonEmptyText},
+                               {"spanId", Want::kNonEmptyText},
+                               {"parentSpanId", Want::kNonEmptyText, false},
+                               {"args", Want::kObject}}};
 constexpr std::size_t kSpanId = 5;
 constexpr std::size_t kParentSpanId = 6;
 constexpr std::size_t kArgs = 7;
 
 const ObjectRules kStepArgs{"args",
-                            {{"stepName", Want::Text},
-                             {"parentStepName", Want::Text, false},
-                             {"errorCode", Want::Int},
-                             {"isSuccess", Want::Int},
-                             {"startTime", Want::Uint64},
-                             {"endTime", Want::Uint64},
-                             {"usedTime", Want::Uint64}}};
+                            {{"stepName", Want::kText},
+                             {"parentStepName", Want::kText, false},
+                             {"errorCode", Want::kInt},
+                             {"isSuccess", Want::kInt},
+                             {"startTime", Want::kUint64},
+                             {"endTime", Want::kUint64},
+                             {"usedTime", Want::kUint64}}};
 constexpr std::size_t kStepName = 0;
 constexpr std::size_t kParentStepName = 1;
 constexpr std::size_t kErrorCode = 2;
@@ -48,7 +48,7 @@ void CheckSuccess(const Place& place, const Member& errorCode, const Member& isS
   const int expected = errorCode.Integer() == 0 ? 1 : 0;
   if (isSuccess.Integer() != expected) {
     findings.Add(
-        FindingKind::IsSuccess, place,
+        FindingKind::kIsSuccess, place,
         fmt::format("isSuccess is {}, but errorCode is {}", isSuccess.text, errorCode.text));
   }
 }
@@ -57,10 +57,10 @@ void CheckParentName(const Place& place, const Member& name, const Member* paren
                      Findings& findings) {
   const bool isChild = name.text == kChild;
   if (isChild && (parentName == nullptr || parentName->text != kParent)) {
-    findings.Add(FindingKind::ParentStep, place,
+    findings.Add(FindingKind::kParentStep, place,
                  fmt::format("the parentStepName of \"{}\" is not \"{}\"", kChild, kParent));
   } else if (!isChild && parentName != nullptr) {
-    findings.Add(FindingKind::ParentStep, place,
+    findings.Add(FindingKind::kParentStep, place,
                  fmt::format("a parentStepName, which only \"{}\" has", kChild));
   }
 }

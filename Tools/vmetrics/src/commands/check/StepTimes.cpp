@@ -20,13 +20,13 @@ void CheckTimes(const Place& place, const StepTimes& times, Findings& findings) 
   const std::optional<std::uint64_t> end = TimeOf(times.end);
   const std::optional<std::uint64_t> used = TimeOf(times.used);
   if (start && end && *end < *start) {
-    findings.Add(FindingKind::Time, place,
+    findings.Add(FindingKind::kTime, place,
                  fmt::format("ends {} ms before it starts", *start - *end));
   }
   // Of such a step usedTime is just below 2^64: the library's subtraction is unsigned, as is this.
   if (start && end && used && *used != *end - *start) {
     findings.Add(
-        FindingKind::UsedTime, place,
+        FindingKind::kUsedTime, place,
         fmt::format("usedTime is {}, but from start to end it is {}", *used, *end - *start));
   }
 }

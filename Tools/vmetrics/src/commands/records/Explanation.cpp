@@ -41,7 +41,7 @@ void ExplainField(const RecordField& field, std::uint64_t offset, std::size_t pe
   const std::vector<std::string> rows = RowsOf(field.bytes, perRow);
   std::vector<std::string> texts = field.meaning;
   for (const std::string& surprise : field.surprises) {
-    texts.push_back(Styled(Style::Yellow, "! " + surprise));
+    texts.push_back(Styled(Style::kYellow, "! " + surprise));
   }
   for (std::size_t at = 0; at < std::max({rows.size(), texts.size(), std::size_t{1}}); ++at) {
     const bool isFirst = at == 0;
@@ -57,9 +57,10 @@ void ExplainField(const RecordField& field, std::uint64_t offset, std::size_t pe
 
 void Explain(RecordKind kind, const FoundRecord& record, std::string_view line,
              std::string_view fault) {
-  Write(Styled(Style::Bold, fmt::format("{}: record {} at byte {}: {} byte{}",
-                                        Printable(record.file), record.number, record.offset,
-                                        record.bytes.size(), record.bytes.size() == 1 ? "" : "s")));
+  Write(Styled(
+      Style::kBold,
+      fmt::format("{}: record {} at byte {}: {} byte{}", Printable(record.file), record.number,
+                  record.offset, record.bytes.size(), record.bytes.size() == 1 ? "" : "s")));
   Write("\n");
   const std::size_t perRow = BytesPerRow();
   for (const RecordField& field : FieldsOf(kind, record.bytes)) {
@@ -69,7 +70,7 @@ void Explain(RecordKind kind, const FoundRecord& record, std::string_view line,
     Write(Printable(line) + "\n");
   }
   if (!fault.empty()) {
-    Write(Styled(Style::Red, fmt::format("the record {}", fault)) + "\n");
+    Write(Styled(Style::kRed, fmt::format("the record {}", fault)) + "\n");
   }
   Write("\n");
 }

@@ -164,10 +164,10 @@ void AddHeader(const FieldLayout (&layouts)[count], RecordKind kind, std::string
 
 std::vector<RecordField> FieldsOf(RecordKind kind, std::string_view record) {
   std::vector<RecordField> fields;
-  if (kind == RecordKind::String) {
+  if (kind == RecordKind::kString) {
     AddHeader(kStringHeader, kind, record, fields);
   } else {
-    if (kind == RecordKind::Message) {
+    if (kind == RecordKind::kMessage) {
       AddHeader(kMessageHeader, kind, record, fields);
     }
     AddHeader(kNumericHeader, kind, record, fields);

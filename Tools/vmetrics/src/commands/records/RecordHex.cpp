@@ -11,7 +11,7 @@ namespace vmetrics {
 
 std::string RecordAsHex(RecordKind kind, std::string_view record) {
   constexpr std::size_t kPerRow = 16;
-  const std::size_t width = kind == RecordKind::String ? 3 * kPerRow - 1 : 23;
+  const std::size_t width = kind == RecordKind::kString ? 3 * kPerRow - 1 : 23;
   std::string text;
   for (const RecordField& field : FieldsOf(kind, record)) {
     std::vector<std::string> rows = HexRows(field.bytes, kPerRow);

@@ -9,11 +9,11 @@ namespace vmetrics {
 
 std::size_t HeaderSize(RecordKind kind) {
   switch (kind) {
-    case RecordKind::String:
+    case RecordKind::kString:
       return sizeof(VMetricsDataString);
-    case RecordKind::Message:
+    case RecordKind::kMessage:
       return sizeof(VMessage) + sizeof(VMetricsData);
-    case RecordKind::Numeric:
+    case RecordKind::kNumeric:
       break;
   }
   return sizeof(VMetricsData);
@@ -27,12 +27,12 @@ std::uint32_t AnnouncedLength(RecordKind kind, const char* record) {
 
 std::string Render(RecordKind kind, const char* record) {
   switch (kind) {
-    case RecordKind::String:
+    case RecordKind::kString:
       return VMetrics::GetStringBaseMetricsString(
           reinterpret_cast<const VMetricsDataString*>(record));
-    case RecordKind::Message:
+    case RecordKind::kMessage:
       return VMetrics::FmtMetricsMsgToString(reinterpret_cast<const VMessage*>(record));
-    case RecordKind::Numeric:
+    case RecordKind::kNumeric:
       break;
   }
   return VMetrics::GetBaseMetricsString(reinterpret_cast<const VMetricsData*>(record));

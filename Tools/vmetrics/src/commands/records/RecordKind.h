@@ -9,9 +9,9 @@
 namespace vmetrics {
 
 enum class RecordKind {
-  Numeric,  ///< VMetricsData.
-  String,   ///< VMetricsDataString.
-  Message   ///< VMessage that carries a VMetricsData.
+  kNumeric,  ///< VMetricsData.
+  kString,   ///< VMetricsDataString.
+  kMessage   ///< VMessage that carries a VMetricsData.
 };
 
 /// The longest value that is rendered.

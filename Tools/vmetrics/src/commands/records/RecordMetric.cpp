@@ -14,7 +14,7 @@ namespace vmetrics {
 namespace {
 
 std::uint32_t MetricId(RecordKind kind, std::string_view record) {
-  const std::size_t start = kind == RecordKind::Message ? sizeof(VMessage) : 0;
+  const std::size_t start = kind == RecordKind::kMessage ? sizeof(VMessage) : 0;
   return NumberAt(record, start + offsetof(VMetricsData, eventId));
 }
 
@@ -35,7 +35,7 @@ std::string_view TextAt(std::string_view record, std::size_t offset) {
 }
 
 std::string IdOf(RecordKind kind, std::string_view record) {
-  if (kind == RecordKind::String) {
+  if (kind == RecordKind::kString) {
     return fmt::format("\"{}\"", Printable(EventId(record)));
   }
   const std::uint32_t id = MetricId(kind, record);
@@ -43,8 +43,8 @@ std::string IdOf(RecordKind kind, std::string_view record) {
 }
 
 const MetricEntry* MetricOf(RecordKind kind, std::string_view record) {
-  return kind == RecordKind::String ? FindEventMetric(EventId(record))
-                                    : FindNumericMetric(static_cast<int>(MetricId(kind, record)));
+  return kind == RecordKind::kString ? FindEventMetric(EventId(record))
+                                     : FindNumericMetric(static_cast<int>(MetricId(kind, record)));
 }
 
 std::string_view UpToNul(std::string_view value) { return value.substr(0, value.find('\0')); }

@@ -101,7 +101,7 @@ void AddChange(Table& table, const Change& change) {
   }
   AddValues(cells, change, Median);
   AddValues(cells, change, Percentile95);
-  table.AddRow(std::move(cells), change.verdict == Verdict::kWorse ? Style::Red : Style::Plain);
+  table.AddRow(std::move(cells), change.verdict == Verdict::kWorse ? Style::kRed : Style::kPlain);
 }
 
 double GreatestError(const std::vector<Change>& changes) {

@@ -82,7 +82,7 @@ void LogStatistics::AddStep(const LogEntry& entry, std::string_view name) {
 
 void LogStatistics::AddMetric(const LogEntry& entry, int id) {
   for (const Member& member : entry.args) {
-    if (member.kind != JsonKind::Number) {
+    if (member.kind != JsonKind::kNumber) {
       continue;
     }
     if (Series* series = SeriesOf(id, member.key, PeriodOf(entry))) {

@@ -61,7 +61,7 @@ void AddSummary(Table& table, const Summary& summary, std::string label) {
   for (std::string& text : ShownValues(summary)) {
     cells.push_back(std::move(text));
   }
-  table.AddRow(std::move(cells), figures.failures > 0 ? Style::Red : Style::Plain);
+  table.AddRow(std::move(cells), figures.failures > 0 ? Style::kRed : Style::kPlain);
   AddNotes(table, summary);
 }
 

@@ -54,21 +54,21 @@ Identifier IdentifierOf(std::string_view text, TextPool& pool) {
     return identifier;
   }
   if (TakeDigits(text, identifier.bytes)) {
-    identifier.kind = Identifier::Kind::Digits;
+    identifier.kind = Identifier::Kind::kDigits;
     return identifier;
   }
   identifier.bytes = {};
-  identifier.kind = Identifier::Kind::Text;
+  identifier.kind = Identifier::Kind::kText;
   const std::uint32_t number = pool.Add(text);
   std::memcpy(identifier.bytes.data(), &number, sizeof number);
   return identifier;
 }
 
 std::string TextOf(const Identifier& identifier, const TextPool& pool) {
-  if (identifier.kind == Identifier::Kind::None) {
+  if (identifier.kind == Identifier::Kind::kNone) {
     return {};
   }
-  if (identifier.kind == Identifier::Kind::Text) {
+  if (identifier.kind == Identifier::Kind::kText) {
     std::uint32_t number = 0;
     std::memcpy(&number, identifier.bytes.data(), sizeof number);
     return std::string(pool[number]);

@@ -15,13 +15,13 @@ namespace vmetrics {
 /// An identifier, or none. Two of the same pool are equal exactly when their texts are.
 struct Identifier {
   enum class Kind : std::uint8_t {
-    None,    ///< The empty text.
-    Digits,  ///< 36 characters as the library makes them: groups of lower-case hexadecimal digits.
-    Text     ///< Any other text, which is in the pool.
+    kNone,    ///< The empty text.
+    kDigits,  ///< 36 characters as the library makes them: groups of lower-case hexadecimal digits.
+    kText     ///< Any other text, which is in the pool.
   };
 
   std::array<std::uint8_t, 16> bytes{};  ///< The digits, or the text's number in the pool.
-  Kind kind = Kind::None;
+  Kind kind = Kind::kNone;
 
   bool operator==(const Identifier& other) const {
     return bytes == other.bytes && kind == other.kind;

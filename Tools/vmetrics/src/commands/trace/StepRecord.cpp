@@ -8,7 +8,7 @@ namespace {
 
 std::string_view TextInArgs(const LogEntry& entry, std::string_view key) {
   const Member* member = entry.FindInArgs(key);
-  return member != nullptr && member->kind == JsonKind::String ? member->text : std::string_view();
+  return member != nullptr && member->kind == JsonKind::kString ? member->text : std::string_view();
 }
 
 std::optional<std::int64_t> IntegerInArgs(const LogEntry& entry, std::string_view key) {

@@ -32,7 +32,7 @@ void StepStore::Add(const StepRecord& record) {
 
 void StepStore::AddCopy(const StepStore& other, const Transaction& transaction) {
   const auto copied = [&](const Identifier& identifier) {
-    return identifier.kind == Identifier::Kind::Text
+    return identifier.kind == Identifier::Kind::kText
                ? IdentifierOf(other.TextOf(identifier), texts_)
                : identifier;
   };

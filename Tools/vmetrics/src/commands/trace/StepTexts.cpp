@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kRefusedLock = "ParentSpanId";
 
 std::string TitleOf(const StepStore& store, const Transaction& transaction) {
-  const bool hasIdentifier = transaction.identifier.kind != Identifier::Kind::None;
+  const bool hasIdentifier = transaction.identifier.kind != Identifier::Kind::kNone;
   return hasIdentifier ? Printable(store.TextOf(transaction.identifier))
                        : "(steps without a transaction ID)";
 }
@@ -31,7 +31,7 @@ std::string NameOf(const StepStore& store, const Step& step) {
   return name.empty() ? "\"\"" : name;
 }
 
-bool HasDates(const TimelineStep& timed) { return timed.placement != Placement::NoDate; }
+bool HasDates(const TimelineStep& timed) { return timed.placement != Placement::kNoDate; }
 
 }  // namespace
 
@@ -68,7 +68,7 @@ std::string StepTexts::Parent(const TimelineStep& timed) const {
 }
 
 std::string StepTexts::ParentPlace(const Step& step) const {
-  if (step.parent.kind == Identifier::Kind::None) {
+  if (step.parent.kind == Identifier::Kind::kNone) {
     return "no parent";
   }
   const std::string span = view_.store.TextOf(step.parent);
@@ -92,12 +92,12 @@ std::vector<std::string> StepTexts::Notes() const {
   if (timeline.HasPath()) {
     notes.push_back("* slowest path" + LongestNote());
   }
-  Note(notes, timeline.Count(Placement::EndsBeforeStart), "! 1 step ends before its start",
+  Note(notes, timeline.Count(Placement::kEndsBeforeStart), "! 1 step ends before its start",
        "! {} steps end before their start");
-  Note(notes, timeline.Count(Placement::FarAway),
+  Note(notes, timeline.Count(Placement::kFarAway),
        "1 step begins or ends more than 31 days away, beyond the scale",
        "{} steps begin or end more than 31 days away, beyond the scale");
-  Note(notes, timeline.Count(Placement::NoDate), "? 1 step has no times from 1970 to 9999",
+  Note(notes, timeline.Count(Placement::kNoDate), "? 1 step has no times from 1970 to 9999",
        "? {} steps have no times from 1970 to 9999");
   Note(notes, timeline.sharedSpans, "1 step has the span ID of another one",
        "{} steps have the span ID of another one");

@@ -60,15 +60,15 @@ std::int64_t MiddleEnd(const std::vector<const Step*>& steps) {
 
 Placement PlacementOf(const Step& step, std::int64_t middle) {
   if (!IsDate(step.start) || !IsDate(step.end)) {
-    return Placement::NoDate;
+    return Placement::kNoDate;
   }
   const auto isFar = [middle](std::int64_t tick) {
     return tick < middle - Timeline::kFarAway || tick > middle + Timeline::kFarAway;
   };
   if (isFar(step.start) || isFar(step.end)) {
-    return Placement::FarAway;
+    return Placement::kFarAway;
   }
-  return step.end < step.start ? Placement::EndsBeforeStart : Placement::InScale;
+  return step.end < step.start ? Placement::kEndsBeforeStart : Placement::kInScale;
 }
 
 bool LiesBefore(const TimelineStep& a, const TimelineStep& b) {
@@ -76,7 +76,7 @@ bool LiesBefore(const TimelineStep& a, const TimelineStep& b) {
     const Step& step = *timed.step;
     // Of those with one start the ones without a length first, then the ones that others lie
     // within.
-    return std::make_tuple(timed.placement == Placement::NoDate, step.start, step.end > step.start,
+    return std::make_tuple(timed.placement == Placement::kNoDate, step.start, step.end > step.start,
                            step.end > step.start ? -step.end : 0);
   };
   return key(a) < key(b);
@@ -93,7 +93,7 @@ std::vector<std::size_t> Nest(std::vector<TimelineStep>& steps) {
   std::vector<std::size_t> outer(steps.size(), kNowhere);
   std::vector<std::size_t> around;
   for (std::size_t i = 0; i < steps.size(); ++i) {
-    if (steps[i].placement != Placement::InScale) {
+    if (steps[i].placement != Placement::kInScale) {
       continue;
     }
     while (!around.empty() && !LiesWithin(*steps[i].step, *steps[around.back()].step)) {
@@ -111,7 +111,7 @@ std::vector<std::size_t> Nest(std::vector<TimelineStep>& steps) {
 void MarkSlowestPath(std::vector<TimelineStep>& steps, const std::vector<std::size_t>& outer) {
   std::vector<std::size_t> byEnd;
   for (std::size_t i = 0; i < steps.size(); ++i) {
-    if (steps[i].placement == Placement::InScale) {
+    if (steps[i].placement == Placement::kInScale) {
       byEnd.push_back(i);
     }
   }
@@ -139,13 +139,13 @@ void FindGaps(Timeline& timeline) {
   std::int64_t reached = timeline.start;
   for (TimelineStep& timed : timeline.steps) {
     const Step& step = *timed.step;
-    if (timed.placement == Placement::InScale) {
+    if (timed.placement == Placement::kInScale) {
       const std::int64_t gap = step.start - reached;
       timed.gapBefore = gap >= shortest ? gap : 0;
       reached = std::max(reached, step.end);
-    } else if (timed.placement == Placement::FarAway) {
+    } else if (timed.placement == Placement::kFarAway) {
       reached = std::max(reached, step.end);
-    } else if (timed.placement == Placement::EndsBeforeStart) {
+    } else if (timed.placement == Placement::kEndsBeforeStart) {
       reached = timeline.end;  // Nobody knows how long it ran: from here on there may be no gap.
     }
   }
@@ -190,7 +190,7 @@ Timeline TimelineOf(std::vector<const Step*> steps) {
   for (const Step* step : steps) {
     timeline.steps.push_back({step, PlacementOf(*step, middle)});
     timeline.failures += step->isFailed ? 1 : 0;
-    if (timeline.steps.back().placement == Placement::InScale) {
+    if (timeline.steps.back().placement == Placement::kInScale) {
       timeline.start = timeline.HasScale() ? std::min(timeline.start, step->start) : step->start;
       timeline.end = std::max(timeline.end, step->end);
     }

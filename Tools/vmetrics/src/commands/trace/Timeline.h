@@ -12,10 +12,10 @@ namespace vmetrics {
 
 /// Whether a step's times can be drawn beside those of the other steps.
 enum class Placement {
-  InScale,
-  EndsBeforeStart,  ///< The clock was set meanwhile.
-  FarAway,          ///< Starts or ends more than Timeline::kFarAway from the others.
-  NoDate            ///< A time is missing or is none.
+  kInScale,
+  kEndsBeforeStart,  ///< The clock was set meanwhile.
+  kFarAway,          ///< Starts or ends more than Timeline::kFarAway from the others.
+  kNoDate            ///< A time is missing or is none.
 };
 
 struct TimelineStep {

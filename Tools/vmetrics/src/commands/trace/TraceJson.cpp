@@ -14,13 +14,13 @@ void AddText(VJson::Value& object, std::string_view key, std::string_view text) 
 
 const char* ProblemOf(Placement placement) {
   switch (placement) {
-    case Placement::EndsBeforeStart:
+    case Placement::kEndsBeforeStart:
       return "endsBeforeStart";
-    case Placement::FarAway:
+    case Placement::kFarAway:
       return "farAway";
-    case Placement::NoDate:
+    case Placement::kNoDate:
       return "noDate";
-    case Placement::InScale:
+    case Placement::kInScale:
       break;
   }
   return "";
@@ -34,7 +34,7 @@ void AddTimes(VJson::Value& object, const TimelineStep& timed, const Timeline& t
   if (step.end != kNoTick) {
     object.AddJsonValue("endTime", step.end);
   }
-  if (timed.placement != Placement::InScale) {
+  if (timed.placement != Placement::kInScale) {
     object.AddJsonValue("problem", ProblemOf(timed.placement));
     return;
   }

@@ -85,11 +85,11 @@ void Waterfall::Show() const {
     ShowStep(timed);
     if (view_.parents != nullptr) {
       Write(std::string(kMark + IndentOf(timed) + kIndent, ' ') +
-            Styled(Style::Dim, texts_.Parent(timed)) + "\n");
+            Styled(Style::kDim, texts_.Parent(timed)) + "\n");
     }
   }
   for (const std::string& note : texts_.Notes()) {
-    Write(std::string(kMark, ' ') + Styled(Style::Dim, note) + "\n");
+    Write(std::string(kMark, ' ') + Styled(Style::kDim, note) + "\n");
   }
 }
 
@@ -104,9 +104,9 @@ void Waterfall::ShowSummary() const {
   const std::string failures = fmt::format("{} failed", timeline_.failures);
   const std::size_t width =
       WidthOf(title) + times.size() + steps.size() + failures.size() + 3 * kSpace;
-  Write(fmt::format("{}{}  {}  {}  {}\n", Styled(Style::Bold, title),
+  Write(fmt::format("{}{}  {}  {}  {}\n", Styled(Style::kBold, title),
                     width <= form_.width ? "" : "\n", times, steps,
-                    timeline_.failures > 0 ? Styled(Style::Red, failures) : failures));
+                    timeline_.failures > 0 ? Styled(Style::kRed, failures) : failures));
 }
 
 void Waterfall::ShowHeader() const {
@@ -114,16 +114,16 @@ void Waterfall::ShowHeader() const {
   ShowLine("",
            {"step", "start", "took", errorWidth_ > 0 ? "error" : "",
             timeline_.HasScale() ? "0" + end : ""},
-           Style::Dim, Style::Dim);
+           Style::kDim, Style::kDim);
 }
 
 void Waterfall::ShowStep(const TimelineStep& timed) const {
   const bool isMarked = timed.isOnSlowestPath && timeline_.HasPath();
-  const Style failure = timed.step->isFailed ? Style::Red : Style::Plain;
+  const Style failure = timed.step->isFailed ? Style::kRed : Style::kPlain;
   ShowLine(isMarked ? "*" : "",
            {std::string(IndentOf(timed), ' ') + texts_.Name(timed), texts_.Start(timed),
             texts_.Took(timed), texts_.Error(timed), BarOf(timed, MakeScale())},
-           failure, isMarked && failure == Style::Plain ? Style::Yellow : failure);
+           failure, isMarked && failure == Style::kPlain ? Style::kYellow : failure);
 }
 
 void Waterfall::ShowGap(const TimelineStep& timed) const {
@@ -132,7 +132,7 @@ void Waterfall::ShowGap(const TimelineStep& timed) const {
   ShowLine("",
            {std::string(kNoStep), texts_.Offset(start), HumanDuration(timed.gapBefore), "",
             MakeScale().Gap(start, end)},
-           Style::Dim, Style::Dim);
+           Style::kDim, Style::kDim);
 }
 
 void Waterfall::ShowLine(std::string_view mark, const Cells& cells, Style text, Style bar) const {
@@ -157,12 +157,12 @@ std::size_t Waterfall::IndentOf(const TimelineStep& timed) const {
 std::string Waterfall::BarOf(const TimelineStep& timed, const Scale& scale) const {
   const Step& step = *timed.step;
   switch (timed.placement) {
-    case Placement::NoDate:
+    case Placement::kNoDate:
       return "?";
-    case Placement::EndsBeforeStart:
+    case Placement::kEndsBeforeStart:
       return scale.Mark(step.start, '!');
-    case Placement::InScale:
-    case Placement::FarAway:
+    case Placement::kInScale:
+    case Placement::kFarAway:
       break;
   }
   return scale.Bar(std::min(step.start, step.end), std::max(step.start, step.end));

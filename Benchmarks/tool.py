@@ -15,6 +15,7 @@ import sys
 import tempfile
 
 import report
+from count_log import percentile
 
 HERE = pathlib.Path(__file__).parent
 BEGIN = "<!-- tool: begin -->"
@@ -30,8 +31,9 @@ def commands(vmetrics, log):
     return [
         Command("`vmetrics stats`", [vmetrics, "stats", "--format", "csv", log], 5, True),
         Command("`vmetrics trace --last 1`", [vmetrics, "trace", "--last", "1", log], 5, True),
-        Command("jq, the count of `stats`", ["jq", "--raw-output", "--null-input", "--from-file",
-                                             HERE / "count_log.jq", log], 1, False),
+        Command("jq, sort and uniq, the count of `stats`",
+                ["sh", "-c", 'jq --raw-output --from-file "$1" "$2" | LC_ALL=C sort | uniq -c',
+                 "sh", HERE / "count_log.jq", log], 1, False),
         Command("Python, the count of `stats`",
                 [sys.executable, HERE / "count_log.py", log], 1, False),
         Command("`wc -l`", ["wc", "-l", log], 5, False),
@@ -58,7 +60,18 @@ def counts_of_tool(printed):
     return counts, errors
 
 
-def counts_of_peer(printed):
+def counts_of_jq(printed):
+    values, failures = collections.defaultdict(collections.Counter), collections.Counter()
+    for line in printed.splitlines():
+        count, line = line.lstrip().split(" ", 1)
+        *key, failed, value = line.split("\t")
+        values[tuple(key)][float(value)] += int(count)
+        failures[tuple(key)] += int(count) * int(failed)
+    return {key: [sum(counts.values()), failures[key], percentile(counts, 50),
+                  percentile(counts, 95)] for key, counts in values.items()}
+
+
+def counts_of_python(printed):
     rows = (line.split("\t") for line in printed.splitlines())
     return {tuple(row[:3]): [float(number) for number in row[3:]] for row in rows}
 
@@ -102,8 +115,8 @@ def main():
         rows.append(row(command, [result[0] for result in results], megabytes))
     titles = list(printed)
     counts, errors = counts_of_tool(printed[titles[0]])
-    for peer in titles[2:4]:
-        wrong = list(differences(counts, errors, counts_of_peer(printed[peer])))
+    for peer, read in zip(titles[2:4], (counts_of_jq, counts_of_python)):
+        wrong = list(differences(counts, errors, read(printed[peer])))
         if wrong:
             sys.exit("\n".join([f"{titles[0]} differs from {peer}:"] + wrong))
     lines = int(printed[titles[-1]].split()[0])

@@ -39,11 +39,6 @@ class Trace {
   int Run();
 
  private:
-  struct Chosen {
-    const Transaction* transaction;
-    std::int64_t start;  ///< That of the first step in scale.
-  };
-
   void Read();
   std::vector<const Transaction*> Choose() const;
   bool IsIncluded(const Transaction& transaction) const;

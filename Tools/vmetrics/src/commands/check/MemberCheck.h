@@ -2,7 +2,6 @@
 #ifndef VMETRICS_TOOL_MEMBERCHECK_H_
 #define VMETRICS_TOOL_MEMBERCHECK_H_
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,24 +9,9 @@
 #include "Findings.h"
 #include "LogEntry.h"
 #include "Privacy.h"
+#include "Want.h"
 
 namespace vmetrics {
-
-/// What the value of a member is to be.
-enum class Want : std::uint8_t {
-  kAnything,
-  kText,
-  kNonEmptyText,
-  kNumberText,  ///< The decimal text of a signed number of 32 bits.
-  kZeroText,    ///< "0"
-  kTwoText,     ///< "2"
-  kInt,
-  kInt64,
-  kUint64,
-  kDouble,
-  kBoolean,
-  kObject
-};
 
 struct MemberRule {
   std::string_view key;

@@ -61,7 +61,11 @@ int CommandWatch::WaitForEnd() {
 }
 
 void CommandWatch::Take(const siginfo_t& signal) {
-  Look();  // Whatever it is: signals of one number that come together are told as one.
+  // Whatever it is: signals of one number that come together are told as one.
+  const bool isStoppedNow = Look();
+  if (isStoppedNow && signal.si_signo != SIGCONT) {
+    StopToo(WSTOPSIG(waitStatus_));
+  }
   if (state_ == State::kEnded || (signal.si_signo == SIGCHLD && signal.si_code > 0)) {
     return;
   }
@@ -75,28 +79,28 @@ void CommandWatch::Take(const siginfo_t& signal) {
   }
 }
 
-/// Sees what has become of the command, and stops where it was stopped.
-void CommandWatch::Look() {
-  bool stoppedNow = false;
+/// Sees what has become of the command. True when it was stopped, and stands still.
+bool CommandWatch::Look() {
+  bool isStoppedNow = false;
   while (waitpid(command_, &waitStatus_, WNOHANG | WUNTRACED | WCONTINUED) == command_) {
-    stoppedNow = WIFSTOPPED(waitStatus_);
-    if (stoppedNow) {
+    isStoppedNow = WIFSTOPPED(waitStatus_);
+    if (isStoppedNow) {
       state_ = State::kStopped;
     } else if (!WIFCONTINUED(waitStatus_)) {
       state_ = State::kEnded;
-      return;
+      return false;
     } else if (state_ == State::kStopped) {
       state_ = State::kContinuedByOthers;
     }
   }
-  if (!stoppedNow || signals_.IsPending(SIGCONT)) {
-    return;
-  }
-  // The system itself lets nobody be stopped by a terminal where nobody would continue him; with
-  // SIGSTOP it is up to us.
-  const int signal = WSTOPSIG(waitStatus_);
+  return isStoppedNow;
+}
+
+/// Stops as the command was stopped, where somebody would continue us. With the terminal's signals
+/// the system sees to that itself; with SIGSTOP it is up to us.
+void CommandWatch::StopToo(int signal) {
   if (signal != SIGSTOP || HasJobControl()) {
-    signals_.Obey(signal);
+    signals_.Stop(signal);
   }
 }
 

@@ -27,7 +27,8 @@ class CommandWatch {
   enum class State { kRunning, kStopped, kContinuedByOthers, kEnded };
 
   void Take(const siginfo_t& signal);
-  void Look();
+  bool Look();
+  void StopToo(int signal);
   void PassOn(const siginfo_t& signal);
   void PassOnContinuing(const siginfo_t& signal);
   bool LeftOurGroup() const;

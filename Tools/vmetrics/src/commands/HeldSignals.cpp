@@ -1,5 +1,7 @@
 #include "HeldSignals.h"
 
+#include <unistd.h>
+
 namespace vmetrics {
 
 namespace {
@@ -8,6 +10,20 @@ struct sigaction DefaultAction() {
   struct sigaction action = {};
   action.sa_handler = SIG_DFL;
   return action;
+}
+
+bool IsPending(int signal) {
+  sigset_t pending;
+  return sigpending(&pending) == 0 && sigismember(&pending, signal) == 1;
+}
+
+/// Lets a signal that waits do what it does, and holds it back again.
+void LetThrough(int signal) {
+  sigset_t let;
+  sigemptyset(&let);
+  sigaddset(&let, signal);
+  pthread_sigmask(SIG_UNBLOCK, &let, nullptr);
+  pthread_sigmask(SIG_BLOCK, &let, nullptr);
 }
 
 }  // namespace
@@ -30,22 +46,24 @@ siginfo_t HeldSignals::Take() const {
   return taken;
 }
 
-bool HeldSignals::IsPending(int signal) const {
-  sigset_t pending;
-  return sigpending(&pending) == 0 && sigismember(&pending, signal) == 1;
-}
-
-void HeldSignals::Obey(int signal) const {
+void HeldSignals::Stop(int signal) const {
   const struct sigaction obeyed = DefaultAction();
   struct sigaction before = {};
   sigaction(signal, &obeyed, &before);
-  sigset_t let;
-  sigemptyset(&let);
-  sigaddset(&let, signal);
-  raise(signal);
-  pthread_sigmask(SIG_UNBLOCK, &let, nullptr);
-  pthread_sigmask(SIG_BLOCK, &let, nullptr);
+  const pid_t self = getpid();
+  // To be told to stop takes away a SIGCONT that waits, to be told to continue the stop that waits.
+  // So we look for the one and then ask for the other with nothing in between.
+  if (!IsPending(SIGCONT) && kill(self, signal) == 0) {
+    LetThrough(signal);
+  }
   sigaction(signal, &before, nullptr);
+}
+
+void HeldSignals::End(int signal) const {
+  const struct sigaction obeyed = DefaultAction();
+  sigaction(signal, &obeyed, nullptr);
+  kill(getpid(), signal);
+  LetThrough(signal);
 }
 
 void HeldSignals::Release() const {

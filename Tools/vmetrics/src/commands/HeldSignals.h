@@ -15,11 +15,12 @@ class HeldSignals {
   /// Waits for a signal and takes it.
   siginfo_t Take() const;
 
-  bool IsPending(int signal) const;
+  /// Stops this process by the signal, until it is continued. Returns at once where SIGCONT waits
+  /// to be taken, or where the system lets nobody be stopped whom nobody would continue.
+  void Stop(int signal) const;
 
-  /// Lets the signal do to this process what it does to any, now. Returns where the process goes
-  /// on: it was stopped and continued, or the system did not let it be stopped or ended.
-  void Obey(int signal) const;
+  /// Ends this process by the signal. Returns where the system does not let it be ended.
+  void End(int signal) const;
 
   /// Makes everything as it was. For a new process, before it becomes another program.
   void Release() const;

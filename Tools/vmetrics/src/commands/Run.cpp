@@ -148,7 +148,7 @@ Ending EndingOf(int waitStatus, int startError) {
 /// in the first process of a container, which its own signals do not end.
 void DieOf(int signal, const HeldSignals& signals) {
   prctl(PR_SET_DUMPABLE, 0);  // The core that tells something is the command's.
-  signals.Obey(signal);
+  signals.End(signal);
 }
 
 int RunStep(const StepOptions& options, char** command) {

@@ -26,7 +26,7 @@ class DefinitionLintTest : public testing::Test {
     return rules;
   }
 
-  const CatalogueKeeper catalogue_;
+  CatalogueKeeper catalogue_;
 
  private:
   const std::string file_ = "x.def";

@@ -14,7 +14,7 @@ using testing::ElementsAre;
 using testing::StrEq;
 
 class DefinitionTextTest : public testing::Test {
-  const CatalogueKeeper catalogue_;
+  CatalogueKeeper catalogue_;
 };
 
 std::string Refusal(std::string_view text) { return RefusalOf(DefinitionKind::kNumeric, text); }

@@ -52,7 +52,7 @@ TEST(StepStoreTest, IdentifiersComeOutAsTheyWentIn) {
       "3f2a9c1e-8b7d-4c3e-9a55-0f1e2d3c4b5a5",
       "3f2a9c1e08b7d04c3e09a5500f1e2d3c4b5a",
       "3f2a9c1e-8b7d-4c3e-9a550-f1e2d3c4b5a",
-      std::string("\0 36 bytes \xF0\x80\xFF, but no digits --", 36)};
+      std::string("\0 36 bytes \xF0\x80\xFF, but no digits ------", 36)};
   StepStore store;
   for (const std::string& text : texts) {
     StepRecord record = RecordOf(text, text, "s");

@@ -40,7 +40,8 @@ std::string ValueOf(const std::string& id, const MetricEntry& metric, const std:
     return *value;
   }
   const std::string why = type->name == "json" ? JsonFaultOf(text) : std::string(type->form);
-  throw UsageError(fmt::format("\"{}\" is no {}, as {} needs it: {}", text, type->name, id, why));
+  throw UsageError(
+      fmt::format("{} is no {}, as {} needs it: {}", ShowText(text), type->name, id, why));
 }
 
 }  // namespace vmetrics

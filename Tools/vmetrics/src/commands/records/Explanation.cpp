@@ -57,10 +57,9 @@ void ExplainField(const RecordField& field, std::uint64_t offset, std::size_t pe
 
 void Explain(RecordKind kind, const FoundRecord& record, std::string_view line,
              std::string_view fault) {
-  Write(Styled(
-      Style::kBold,
-      fmt::format("{}: record {} at byte {}: {} byte{}", Printable(record.file), record.number,
-                  record.offset, record.bytes.size(), record.bytes.size() == 1 ? "" : "s")));
+  Write(Styled(Style::kBold,
+               fmt::format("{}: record {} at byte {}: {}", Printable(record.file), record.number,
+                           record.offset, Counted(record.bytes.size(), "byte"))));
   Write("\n");
   const std::size_t perRow = BytesPerRow();
   for (const RecordField& field : FieldsOf(kind, record.bytes)) {

@@ -14,10 +14,6 @@ namespace {
 /// and in front of the member there are but strings and numbers.
 bool HasArguments(std::string_view line) { return line.find(",\"args\":") != line.npos; }
 
-std::string Counted(std::size_t count) {
-  return fmt::format("{} byte{}", count, count == 1 ? "" : "s");
-}
-
 std::string ReasonForNoArguments(RecordKind kind, std::string_view record) {
   const MetricEntry* metric = MetricOf(kind, record);
   if (metric == nullptr) {
@@ -33,7 +29,8 @@ std::string ReasonForNoArguments(RecordKind kind, std::string_view record) {
 std::string FaultOf(RecordKind kind, std::string_view record, std::string_view line) {
   if (line.empty()) {
     return fmt::format("is not rendered, as it announces {} of value; {} are the most",
-                       Counted(AnnouncedLength(kind, record.data())), kLongestRenderedValue);
+                       Counted(AnnouncedLength(kind, record.data()), "byte"),
+                       kLongestRenderedValue);
   }
   if (HasArguments(line)) {
     return {};
@@ -44,17 +41,17 @@ std::string FaultOf(RecordKind kind, std::string_view record, std::string_view l
 std::string FaultOfRest(RecordKind kind, std::string_view rest) {
   const std::size_t headerSize = HeaderSize(kind);
   if (rest.size() < headerSize) {
-    return fmt::format("is cut short: of its header of {} there {}", Counted(headerSize),
+    return fmt::format("is cut short: of its header of {} there {}", Counted(headerSize, "byte"),
                        rest.size() == 1 ? "is 1" : fmt::format("are {}", rest.size()));
   }
   const std::uint32_t length = AnnouncedLength(kind, rest.data());
   if (length > kLongestValue) {
     return fmt::format(
         "announces {} of value, which is no length: where the next record begins is unknown",
-        Counted(length));
+        Counted(length, "byte"));
   }
   const std::size_t there = rest.size() - headerSize;
-  return fmt::format("is cut short: of its value of {} there {}", Counted(length),
+  return fmt::format("is cut short: of its value of {} there {}", Counted(length, "byte"),
                      there == 1 ? "is 1" : fmt::format("are {}", there));
 }
 

@@ -101,9 +101,9 @@ void DescribeText(RecordKind, std::string_view record, RecordField& field) {
   const auto bytes = static_cast<std::size_t>(
       std::count_if(behind.begin(), behind.end(), [](char byte) { return byte != '\0'; }));
   if (bytes > 0) {
-    field.surprises.push_back(fmt::format(
-        "{} behind the terminator that {} not zero and not rendered",
-        bytes == 1 ? "1 byte" : fmt::format("{} bytes", bytes), bytes == 1 ? "is" : "are"));
+    field.surprises.push_back(
+        fmt::format("{} behind the terminator that {} not zero and not rendered",
+                    Counted(bytes, "byte"), bytes == 1 ? "is" : "are"));
   }
 }
 

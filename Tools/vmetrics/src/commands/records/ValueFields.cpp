@@ -13,9 +13,7 @@ namespace vmetrics {
 
 namespace {
 
-std::string Counted(std::size_t count) {
-  return count == 0 ? "no bytes" : fmt::format("{} byte{}", count, count == 1 ? "" : "s");
-}
+std::string Bytes(std::size_t count) { return count == 0 ? "no bytes" : Counted(count, "byte"); }
 
 /// The missing bytes of a number are read as zero, those too many not at all.
 void DescribeNumber(const ValueType& type, RecordField& field) {
@@ -25,10 +23,10 @@ void DescribeNumber(const ValueType& type, RecordField& field) {
   field.meaning.push_back(type.show(bytes));
   if (size < type.width) {
     field.surprises.push_back(fmt::format("{}, shorter than its type ({} has {}): zeros are added",
-                                          Counted(size), type.name, type.width));
+                                          Bytes(size), type.name, type.width));
   } else if (size > type.width) {
     field.surprises.push_back(
-        fmt::format("{}, longer than its type ({} has {}): the rest is unread", Counted(size),
+        fmt::format("{}, longer than its type ({} has {}): the rest is unread", Bytes(size),
                     type.name, type.width));
   }
   if (type.name == "bool" && static_cast<unsigned char>(bytes[0]) > 1) {
@@ -42,7 +40,7 @@ void DescribeText(const ValueType& type, RecordField& field) {
   // A terminator is not needed and does no harm.
   if (text.size() + 1 < field.bytes.size()) {
     field.surprises.push_back(fmt::format("{} behind the NUL at byte {} of it, not rendered",
-                                          Counted(field.bytes.size() - text.size() - 1),
+                                          Bytes(field.bytes.size() - text.size() - 1),
                                           text.size()));
   }
   if (type.name == "json") {
@@ -54,12 +52,12 @@ void DescribeText(const ValueType& type, RecordField& field) {
 
 void DescribeWhole(const MetricEntry* metric, RecordField& field) {
   if (metric == nullptr) {
-    field.meaning.push_back(fmt::format("{} of unknown type", Counted(field.bytes.size())));
+    field.meaning.push_back(fmt::format("{} of unknown type", Bytes(field.bytes.size())));
     return;
   }
   const ValueType* type = FindValueType((*metric)[0]);
   if (type == nullptr) {
-    field.meaning.push_back(Counted(field.bytes.size()));
+    field.meaning.push_back(Bytes(field.bytes.size()));
     field.surprises.push_back(fmt::format("{} is no type of value: an empty object is rendered",
                                           Printable((*metric)[0])));
     return;
@@ -77,7 +75,7 @@ RecordField ValueField(RecordKind kind, std::string_view record) {
     field.surprises.push_back(
         fmt::format("cut short: {} of {} bytes", field.bytes.size(), announced));
   } else if (announced > kLongestRenderedValue) {
-    field.meaning.push_back(Counted(announced));
+    field.meaning.push_back(Bytes(announced));
   } else {
     DescribeWhole(MetricOf(kind, record), field);
   }

@@ -12,6 +12,13 @@
 
 namespace vmetrics {
 
+std::string ShowText(std::string_view text) {
+  constexpr std::size_t kColumns = 100;
+  const std::string printable = Printable(text.substr(0, 4 * kColumns));
+  return fmt::format("\"{}\"",
+                     WidthOf(printable) <= kColumns ? printable : Fitted(printable, kColumns));
+}
+
 namespace {
 
 template <typename Number>
@@ -64,12 +71,6 @@ std::string ShowEnum(std::string_view bytes) {
 }
 
 std::optional<std::string> PackText(const std::string& value) { return value; }
-
-std::string ShowText(std::string_view bytes) {
-  constexpr std::size_t kColumns = 100;  // All of it stands in the rendered line.
-  const std::string text = Printable(bytes.substr(0, 4 * kColumns));
-  return fmt::format("\"{}\"", WidthOf(text) <= kColumns ? text : Fitted(text, kColumns));
-}
 
 std::optional<std::string> PackJson(const std::string& value) {
   return FindJsonFault(value) ? std::nullopt : std::optional(value);

@@ -23,6 +23,9 @@ struct ValueType {
   bool IsText() const { return width == 0; }
 };
 
+/// `text` in quotes for a terminal, the beginning of it where it is long.
+std::string ShowText(std::string_view text);
+
 /// Null for a type that renders as an empty object.
 const ValueType* FindValueType(std::string_view name);
 

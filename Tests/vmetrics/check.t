@@ -148,6 +148,8 @@ Output that cannot be written is trouble, too:
   $ vmetrics check one.log >/dev/full
   vmetrics: standard output: No space left on device
   [2]
+  $ vmetrics check missing one.log 2>/dev/full >/dev/null
+  [2]
 
 Wrong usage:
 

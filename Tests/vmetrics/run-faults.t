@@ -81,3 +81,7 @@ Nobody reads standard error, or there is none:
   5
   $ vmetrics run --step s --metrics log -- no-such-command <&- >&- 2>&-
   [127]
+  $ vmetrics run --step s --metrics log -- no-such-command 2>/dev/full
+  [127]
+  $ error_code
+  127

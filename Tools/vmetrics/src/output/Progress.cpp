@@ -4,8 +4,8 @@
 #include <unistd.h>
 
 #include <cstdint>
-#include <cstdio>
 
+#include "Terminal.h"
 #include "Text.h"
 
 namespace vmetrics {
@@ -22,19 +22,18 @@ void Progress::Show(const Input& input) {
   const std::uint64_t megabytes = input.Position() / kMegabyte;
   const std::string name = Fitted(Printable(input.Name()), 40);
   if (input.Size() > 0) {
-    fmt::print(stderr, "\r{} {:3} % of {} MB\033[K", name, input.Position() * 100 / input.Size(),
-               input.Size() / kMegabyte);
+    WriteToStandardError(fmt::format("\r{} {:3} % of {} MB\033[K", name,
+                                     input.Position() * 100 / input.Size(),
+                                     input.Size() / kMegabyte));
   } else {
-    fmt::print(stderr, "\r{} {} MB\033[K", name, megabytes);
+    WriteToStandardError(fmt::format("\r{} {} MB\033[K", name, megabytes));
   }
-  std::fflush(stderr);
   isShown_ = true;
 }
 
 void Progress::Clear() {
   if (isShown_) {
-    fmt::print(stderr, "\r\033[K");
-    std::fflush(stderr);
+    WriteToStandardError("\r\033[K");
     isShown_ = false;
   }
 }

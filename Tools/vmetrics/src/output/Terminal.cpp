@@ -79,6 +79,12 @@ void FinishOutput() {
   }
 }
 
-void Complain(std::string_view text) { fmt::print(stderr, "vmetrics: {}\n", text); }
+void WriteToStandardError(std::string_view text) {
+  // Where nobody can be told there is nothing to be done about it: the work goes on.
+  std::fwrite(text.data(), 1, text.size(), stderr);
+  std::fflush(stderr);
+}
+
+void Complain(std::string_view text) { WriteToStandardError(fmt::format("vmetrics: {}\n", text)); }
 
 }  // namespace vmetrics

@@ -35,6 +35,9 @@ void Write(std::string_view text);
 /// Empties the buffer. Throws std::system_error where standard output could not take everything.
 void FinishOutput();
 
+/// Writes to standard error, at once. A failure is passed over.
+void WriteToStandardError(std::string_view text);
+
 /// Writes "vmetrics: ", the text and a line break to standard error.
 void Complain(std::string_view text);
 

@@ -131,6 +131,19 @@ TEST_F(InputTest, DamagedCompressedFileIsNoticed) {
   }
 }
 
+TEST_F(InputTest, OtherContentBehindTheCompressedIsNoticed) {
+  GzipFile::Append(name_, "one\n");
+  const std::string first = FileContent::Read(name_);
+  for (const char* rest : {"two\n", "\x1F", "\n"}) {
+    SCOPED_TRACE(rest);
+    FileContent::Write(name_, first + rest);
+    EXPECT_EQ(ErrorOf(name_), name_ + ": behind the compressed data, at byte " +
+                                  std::to_string(first.size()) +
+                                  ", is something else, which is not read");
+    EXPECT_EQ(content_, "one\n");
+  }
+}
+
 TEST_F(InputTest, UnknownCompressionIsNoticed) {
   FileContent::Write(name_, std::string("\x1F\x8B\x09\0\0\0\0\0\0\x03", 10));
   EXPECT_EQ(ErrorOf(name_), name_ + ": the compressed data is damaged");

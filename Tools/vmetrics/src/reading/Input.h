@@ -40,6 +40,13 @@ class Input {
  private:
   struct Stream;
 
+  /// Whether the file is compressed.
+  void FindContent();
+  std::string_view ReadPlain();
+  std::string_view ReadCompressed();
+  /// Whether one more compressed file stands behind the one that has ended.
+  bool FindNextCompressed();
+
   const std::string name_;
   std::unique_ptr<Stream> stream_;
   std::uint64_t size_ = 0;

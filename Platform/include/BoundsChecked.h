@@ -1,3 +1,4 @@
+/// \file
 /// Memory and string functions that refuse what does not fit, after Annex K of the C standard.
 ///
 /// Each is safe to call from any thread; none allocates.

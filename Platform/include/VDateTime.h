@@ -1,3 +1,4 @@
+/// \file
 /// The platform's clock.
 #ifndef VDATETIME_H_
 #define VDATETIME_H_

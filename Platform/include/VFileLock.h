@@ -1,3 +1,4 @@
+/// \file
 /// Small files that several processes share, read and written under a lock.
 ///
 /// Example:

@@ -1,3 +1,4 @@
+/// \file
 /// The platform's IPC message, as far as metrics need it.
 ///
 /// A message is a 24-byte header followed by whatever it carries. The words that metrics do not

@@ -1,3 +1,4 @@
+/// \file
 /// JSON texts, built member by member or taken over from elsewhere.
 ///
 /// Example:
@@ -29,11 +30,15 @@ namespace VJson {
 /// leaves the value as it was.
 class Value {
  public:
+  /// The empty object.
   Value();
   // A value is never moved, as one without a text would be left behind; it is small enough to copy.
+  /// A copy, with a text of its own.
   Value(const Value& other);
+  /// Becomes a copy of `other`, which may be the value itself.
   Value& operator=(const Value& other);
 
+  ///@{
   /// Adds a member. A value that is not an object, which only Parse can make, takes none and stays
   /// as it is. A null text counts as an empty one.
   void AddJsonValue(std::string_view key, const std::string& value);
@@ -45,6 +50,7 @@ class Value {
   /// The shortest text that reads back as the same number; NaN and the infinities become null.
   void AddJsonValue(std::string_view key, double value);
   void AddJsonValue(std::string_view key, bool value);
+  ///@}
 
   /// Adds a copy of `value` as a member, which may be the value itself.
   void Add(std::string_view key, const Value& value);

@@ -1,3 +1,4 @@
+/// \file
 /// The platform's logger: a diagnostics channel for people and a metrics channel for machines.
 #ifndef VLOGGER_H_
 #define VLOGGER_H_
@@ -8,6 +9,7 @@
 /// so.
 class VLogger {
  public:
+  /// The one instance.
   static VLogger& GetInstance();
 
   /// Writes one line to the diagnostics channel, if its level is let through.

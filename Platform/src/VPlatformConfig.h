@@ -1,3 +1,4 @@
+/// \file
 /// What a host may set on the embedded platform.
 ///
 /// Everything works without any of this: metrics go to standard output, errors and warnings to

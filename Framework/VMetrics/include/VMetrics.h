@@ -1,3 +1,4 @@
+/// \file
 /// VMetrics: a catalogue of metrics, their rendering to one-line JSON, ready-made event reporters,
 /// and the tracing of a transaction's steps across processes.
 ///
@@ -21,6 +22,7 @@
 #include <string>
 #include <vector>
 
+/// Marks what the library exports.
 #define VMETRICS_API __attribute__((visibility("default")))
 
 struct VMessage;  // The platform's IPC message.
@@ -39,7 +41,7 @@ using MetricsStringMap = std::map<std::string, MetricEntry>;
 
 /// The outcomes that functions with an `int` result report.
 enum VMetricsStatus : int {
-  VMETRICS_OK = 0,
+  VMETRICS_OK = 0,                 ///< Done.
   VMETRICS_STEP_ERROR = -9996,     ///< An unknown step status, or the end of a step not started.
   VMETRICS_INVALID = -9999,        ///< A missing or unreadable argument, or an ID that is taken.
   VMETRICS_REPORT_FAILED = -10000  ///< A report could not be made; nothing was written.

@@ -56,4 +56,6 @@ if(VMETRICS_BUILD_TOOLS)
   install(TARGETS vmetrics COMPONENT tool)
   file(GLOB pages Tools/vmetrics/man/*.1)
   install(FILES ${pages} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+  install(FILES Tools/vmetrics/completion/vmetrics
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tool)
 endif()

@@ -58,4 +58,14 @@ if(VMETRICS_BUILD_TOOLS)
   install(FILES ${pages} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
   install(FILES Tools/vmetrics/completion/vmetrics
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tool)
+  # What log viewers show metrics logs by.
+  file(GLOB formats Tools/viewers/*.json)
+  install(FILES ${formats} DESTINATION ${CMAKE_INSTALL_DATADIR}/vmetrics/lnav COMPONENT tool)
+endif()
+
+file(GLOB documents docs/*.md)
+install(FILES ${documents} DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+
+if(VMETRICS_PACKAGES_OF)
+  include(cmake/packages.cmake)
 endif()

@@ -46,7 +46,8 @@ class LogStatisticsTest : public testing::Test {
   }
 
   LogEntryParser parser_;
-  LogStatistics statistics_{SeriesChoice{}};
+  Privacy privacy_;
+  LogStatistics statistics_{SeriesChoice{}, privacy_};
 };
 
 TEST_F(LogStatisticsTest, CountsStepsByName) {
@@ -126,8 +127,16 @@ TEST_F(LogStatisticsTest, NamesBeyondTheirRoomAreLeftOut) {
   EXPECT_EQ(statistics_.LeftOut(), 1U);
 }
 
+TEST_F(LogStatisticsTest, MembersOfPrivateMetricsAreNamelessUnlessTheCatalogueNamesThem) {
+  constexpr const char* kId = "789250054";  // topNcpu
+  Add(Metric(kId, R"({"alice.exe":1,"topNcpu":2,"bob.exe":3})"));
+  EXPECT_THAT(Names(), ElementsAre("*** 789250054", "topNcpu 789250054"));
+  EXPECT_EQ(statistics_.Sorted()[0]->second.count, 2U);
+}
+
 std::vector<std::int64_t> PeriodsOf(Period period, const std::vector<std::string>& timestamps) {
-  LogStatistics statistics({period, {}, {}});
+  const Privacy privacy;
+  LogStatistics statistics({period, {}, {}}, privacy);
   LogEntryParser parser;
   for (const std::string& timestamp : timestamps) {
     statistics.Add(

@@ -189,6 +189,44 @@ Private metrics are masked. None that is built in is a number, so the product's 
   METRIC      COUNT  MIN  MEDIAN  P95  P99  MAX
   secret (7)      1   42      42   42   42   42
 
+A number may be the ID of an event that a host has registered:
+
+  $ vmetrics stats --event-definitions definitions private
+  METRIC   COUNT  MIN  MEDIAN  P95  P99  MAX
+  *** (7)      1  ***     ***  ***  ***  ***
+
+The names of the members of a private metric are data but for the one that the catalogue gives. All
+others of one metric are counted together:
+
+  $ echo '9;json;top;1' > definitions
+  $ metric 9 '{"alice.exe":12,"bob.exe":3}' > private
+  $ metric 9 '{"alice.exe":4,"top":1}' >> private
+  $ vmetrics stats --definitions definitions private
+  METRIC   COUNT  MIN  MEDIAN  P95  P99  MAX
+  *** (9)      3  ***     ***  ***  ***  ***
+  top (9)      1  ***     ***  ***  ***  ***
+  $ vmetrics stats --definitions definitions --by day private
+  METRIC        COUNT  MIN  MEDIAN  P95  P99  MAX
+  *** (9)
+    2026-11-20      3  ***     ***  ***  ***  ***
+  top (9)
+    2026-11-20      1  ***     ***  ***  ***  ***
+  $ vmetrics stats --definitions definitions --format json private
+  {"metric":"9","name":"***","count":3,"unusable":0,"min":"***","median":"***","p95":"***","p99":"***","max":"***","relativeError":0}
+  {"metric":"9","name":"top","count":1,"unusable":0,"min":"***","median":"***","p95":"***","p99":"***","max":"***","relativeError":0}
+  $ vmetrics stats --definitions definitions --format csv private
+  kind,id,name,period,count,failures,unusable,min,median,p95,p99,max,relativeError,errorCodes
+  metric,9,***,,3,,0,***,***,***,***,***,0,
+  metric,9,top,,1,,0,***,***,***,***,***,0,
+  $ vmetrics stats --definitions definitions --show-private private
+  METRIC         COUNT  MIN  MEDIAN  P95  P99  MAX
+  alice.exe (9)      2    4       4   12   12   12
+  bob.exe (9)        1    3       3    3    3    3
+  top (9)            1    1       1    1    1    1
+  $ metric 789250054 '{"C:/Users/alice/x.exe":12.5}' | vmetrics stats
+  METRIC           COUNT  MIN  MEDIAN  P95  P99  MAX
+  *** (789250054)      1  ***     ***  ***  ***  ***
+
 Names are shown as what they are, whatever they would do to a terminal or a table:
 
   $ {

@@ -33,6 +33,11 @@ void AddValue(Series& series, std::optional<double> value) {
   }
 }
 
+bool IsNameOf(const MetricEntry* metric, std::string_view key) {
+  constexpr std::size_t kName = 1;
+  return metric != nullptr && metric->at(kName) == key;
+}
+
 template <typename Number>
 void AppendBytes(std::string& bytes, Number number) {
   char raw[sizeof number];
@@ -81,11 +86,13 @@ void LogStatistics::AddStep(const LogEntry& entry, std::string_view name) {
 }
 
 void LogStatistics::AddMetric(const LogEntry& entry, int id) {
+  const MetricEntry* metric = FindNumericMetric(id);
   for (const Member& member : entry.args) {
     if (member.kind != JsonKind::kNumber) {
       continue;
     }
-    if (Series* series = SeriesOf(id, member.key, PeriodOf(entry))) {
+    const bool isShown = IsNameOf(metric, member.key) || !privacy_.IsMasked(entry.Text("eventId"));
+    if (Series* series = SeriesOf(id, isShown ? member.key : kMask, PeriodOf(entry))) {
       AddValue(*series, member.Double());
     }
   }

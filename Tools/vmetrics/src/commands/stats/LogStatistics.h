@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "Privacy.h"
 #include "stats/Series.h"
 
 namespace vmetrics {
@@ -23,12 +24,15 @@ struct SeriesChoice {
 };
 
 /// Counts step records by step name, and records with a numeric ID by their ID and each member of
-/// their "args" that is a number.
+/// their "args" that is a number. A member of a private metric that is not the one the catalogue
+/// names has data for a name: all such of one metric are counted together, with the mask for a
+/// name.
 class LogStatistics {
  public:
   static constexpr std::size_t kMostSeries = 50000;
 
-  explicit LogStatistics(SeriesChoice choice) : choice_(std::move(choice)) {}
+  LogStatistics(SeriesChoice choice, const Privacy& privacy)
+      : choice_(std::move(choice)), privacy_(privacy) {}
   LogStatistics(const LogStatistics&) = delete;
   LogStatistics& operator=(const LogStatistics&) = delete;
 
@@ -53,6 +57,7 @@ class LogStatistics {
   Series* NewSeries(std::optional<int> id, std::string_view name, std::int64_t period);
 
   const SeriesChoice choice_;
+  const Privacy& privacy_;
   // 64 MB.
   DistributionBudget budget_{std::size_t{4} << 20U};
   std::size_t nameRoom_ = std::size_t{16} << 20U;

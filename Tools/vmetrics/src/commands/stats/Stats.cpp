@@ -141,7 +141,7 @@ int ConcludeStatistics(const LogStatistics& statistics, int status) {
 }
 
 int ShowSummaries(StatsOptions& options) {
-  LogStatistics statistics(options.choice);
+  LogStatistics statistics(options.choice, options.privacy);
   ReadLog(options.files, statistics);
   WriteSummaries(Summarise(statistics, options.privacy), options.choice.period, options.format);
   return ConcludeStatistics(statistics, options.files.Conclude(kSuccess));
@@ -152,9 +152,9 @@ int ShowComparison(StatsOptions& options) {
     throw UsageError("standard input can be one of the logs only: name a file");
   }
   LogFiles oldFiles({*options.oldFile});
-  LogStatistics before(options.choice);
+  LogStatistics before(options.choice, options.privacy);
   ReadLog(oldFiles, before);
-  LogStatistics after(options.choice);
+  LogStatistics after(options.choice, options.privacy);
   ReadLog(options.files, after);
   const std::vector<Change> changes =
       Compare(Summarise(before, options.privacy), Summarise(after, options.privacy), options.rule);

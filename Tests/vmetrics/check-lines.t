@@ -61,3 +61,16 @@ A line longer than any record:
   vmetrics: 1 line of more than 4194304 bytes left out
   vmetrics: 1 record checked, 2 findings: 1 not-json, 1 too-long
   [1]
+
+A file whose name a terminal would obey:
+
+  $ f=$(printf 'b\302\23331m\033.log')
+  $ echo '{}' >"$f"
+  $ vmetrics check "$f"
+  b\u009b31m\u001b.log:1: no-record: a JSON object, but no record of the library
+  vmetrics: 1 record checked, 1 finding: 1 no-record
+  [1]
+  $ vmetrics check --format json "$f"
+  {"file":"b\u009b31m\u001b.log","line":1,"kind":"no-record","message":"a JSON object, but no record of the library"}
+  vmetrics: 1 record checked, 1 finding: 1 no-record
+  [1]

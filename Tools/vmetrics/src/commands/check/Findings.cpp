@@ -1,11 +1,11 @@
 #include "Findings.h"
 
-#include <VJson.h>
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <utility>
 
+#include "JsonText.h"
 #include "Terminal.h"
 #include "Text.h"
 
@@ -60,7 +60,7 @@ void Findings::Write(const Finding& finding) const {
     line.AddJsonValue("line", std::uint64_t{finding.place.line});
     line.AddJsonValue("kind", std::string(kind));
     line.AddJsonValue("message", finding.message);
-    vmetrics::Write(line.ToString() + '\n');
+    vmetrics::Write(JsonText(line) + '\n');
   } else {
     vmetrics::Write(fmt::format("{}: {}: {}\n", Describe(finding.place),
                                 Styled(Style::kYellow, kind), finding.message));

@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "Csv.h"
+#include "JsonText.h"
 #include "Table.h"
 
 namespace vmetrics {
@@ -223,7 +224,7 @@ std::string JsonLineOf(const Change& change) {
     object.AddJsonValue("medianGrew", change.medianGrew);
     object.AddJsonValue("failureRateGrew", change.failureRateGrew);
   }
-  return JsonLine(object);
+  return JsonText(object) + '\n';
 }
 
 std::string CsvLineOf(const Change& change) {

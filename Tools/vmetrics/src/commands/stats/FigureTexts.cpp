@@ -15,7 +15,7 @@ namespace {
 constexpr double kLeastShortened = 1e7;
 constexpr double kMostShortened = 1e18;
 
-std::string Shortened(double value) {
+std::string WithUnit(double value) {
   double scaled = value / 1e6;
   const char* unit = "MGTP";
   for (; std::fabs(scaled) >= 1000 && unit[1] != '\0'; ++unit) {
@@ -34,7 +34,7 @@ std::string ShownValue(double value, double relativeError) {
     return "-";
   }
   if (std::fabs(value) >= kLeastShortened) {
-    return std::fabs(value) < kMostShortened ? Shortened(value) : fmt::format("{:.3g}", value);
+    return std::fabs(value) < kMostShortened ? WithUnit(value) : fmt::format("{:.3g}", value);
   }
   return std::trunc(value) == value ? fmt::format("{:.0f}", value) : fmt::format("{:.5g}", value);
 }
@@ -66,11 +66,6 @@ std::string PeriodText(Period period, std::int64_t index) {
   constexpr std::time_t kSeconds = 3600;
   return period == Period::kHour ? fmt::format("{:%Y-%m-%d %H:00}", fmt::gmtime(index * kSeconds))
                                  : fmt::format("{:%Y-%m-%d}", fmt::gmtime(index * 24 * kSeconds));
-}
-
-std::string JsonLine(const VJson::Value& object) {
-  // Only characters of strings are left to be escaped here, and JSON knows the escapes.
-  return Printable(object.ToString()) + '\n';
 }
 
 void AddKey(VJson::Value& object, const SeriesKey& key, Period period) {

@@ -29,9 +29,6 @@ std::string LabelOf(const SeriesKey& key);
 /// "2026-11-21" or "2026-11-21 16:00"; "no time" for kTimeless.
 std::string PeriodText(Period period, std::int64_t index);
 
-/// The object as a line in which a terminal finds nothing to obey.
-std::string JsonLine(const VJson::Value& object);
-
 /// Adds what a series is about.
 void AddKey(VJson::Value& object, const SeriesKey& key, Period period);
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "Csv.h"
+#include "JsonText.h"
 #include "Table.h"
 
 namespace vmetrics {
@@ -140,7 +141,7 @@ std::string JsonLineOf(const Summary& summary, Period period) {
   AddValue(object, "p99", figures.percentile99, summary.isMasked);
   AddValue(object, "max", figures.greatest, summary.isMasked);
   object.AddJsonValue("relativeError", figures.relativeError);
-  return JsonLine(object);
+  return JsonText(object) + '\n';
 }
 
 std::string CsvErrorCodes(const Figures& figures) {

@@ -42,3 +42,36 @@ Metrics may be private by a definition:
   $ check --definitions own own.log --show-private
   args: pin is "4711", not a 32-bit number
   duplicate-key: secret is there more than once
+
+So may be the event ID of a step, which is free text:
+
+  $ cat >step.log <<END
+  > {"eventId":"789250054","timestamp":1,"terminalId":"0","type":"2","transactionId":"t","spanId":"e4087119-7420-0031-4962-ce575d58c9b8","args":{"stepName":"s","errorCode":"SECRET","isSuccess":1,"startTime":"SECRET","SECRET":1}}
+  > {"eventId":"789250054","timestamp":1,"terminalId":"0","type":"2","transactionId":"t","spanId":"e4087119-7420-0031-4962-ce575d58c9b9","args":{"stepName":"s","errorCode":4711,"isSuccess":815,"startTime":4711,"endTime":815,"usedTime":4712}}
+  > {"eventId":"789250054","timestamp":1,"terminalId":"0","type":"2","transactionId":"t","spanId":"e4087119-7420-0031-4962-ce575d58c9ba","args":"SECRET"}
+  > {"eventId":"789250054","args":{"stepName":"s","errorCode":"SECRET"}}
+  > END
+  $ check step.log
+  extra-member: ***: not part of args
+  member: errorCode is a text (***), not a 32-bit number
+  member: startTime is a text (***), not an unsigned 64-bit number
+  member: args lacks endTime, usedTime
+  is-success: isSuccess is ***, but errorCode is ***
+  time: ends *** ms before it starts
+  used-time: usedTime is ***, but from start to end it is ***
+  member: args is a text (***), not an object
+  member: a step record lacks timestamp, terminalId, type and 2 more
+  member: errorCode is a text (***), not a 32-bit number
+  member: args lacks isSuccess, startTime, endTime and 1 more
+  $ check --show-private step.log
+  extra-member: SECRET: not part of args
+  member: errorCode is "SECRET", not a 32-bit number
+  member: startTime is "SECRET", not an unsigned 64-bit number
+  member: args lacks endTime, usedTime
+  is-success: isSuccess is 815, but errorCode is 4711
+  time: ends 3896 ms before it starts
+  used-time: usedTime is 4712, but from start to end it is 18446744073709547720
+  member: args is "SECRET", not an object
+  member: a step record lacks timestamp, terminalId, type and 2 more
+  member: errorCode is "SECRET", not a 32-bit number
+  member: args lacks isSuccess, startTime, endTime and 1 more

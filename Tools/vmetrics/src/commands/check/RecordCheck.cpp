@@ -115,7 +115,7 @@ void RecordCheck::CheckEvent(const Place& place, const LogEntry& entry) {
     CheckTimes(
         place,
         {entry.FindInArgs("startTime"), entry.FindInArgs("endTime"), entry.FindInArgs("usedTime")},
-        findings_);
+        privacy_.IsMasked(eventId), findings_);
   }
   if (const MetricEntry* metric = FindEventMetric(eventId)) {
     args_.Check(place, eventId, *metric, entry);

@@ -14,7 +14,8 @@ namespace vmetrics {
 class RecordCheck {
  public:
   RecordCheck(const Privacy& privacy, Findings& findings)
-      : findings_(findings),
+      : privacy_(privacy),
+        findings_(findings),
         members_(privacy, findings),
         args_(privacy, findings),
         steps_(privacy, findings) {}
@@ -28,6 +29,7 @@ class RecordCheck {
   void CheckNumeric(const Place& place, const LogEntry& entry);
   void CheckEvent(const Place& place, const LogEntry& entry);
 
+  const Privacy& privacy_;
   Findings& findings_;
   MemberCheck members_;
   ArgsCheck args_;

@@ -44,12 +44,12 @@ constexpr std::string_view kChild = "create rds";
 constexpr std::string_view kParent = "Connect";
 
 void CheckSuccess(const Place& place, const Member& errorCode, const Member& isSuccess,
-                  Findings& findings) {
+                  bool isMasked, Findings& findings) {
   const int expected = errorCode.Integer() == 0 ? 1 : 0;
   if (isSuccess.Integer() != expected) {
-    findings.Add(
-        FindingKind::kIsSuccess, place,
-        fmt::format("isSuccess is {}, but errorCode is {}", isSuccess.text, errorCode.text));
+    findings.Add(FindingKind::kIsSuccess, place,
+                 fmt::format("isSuccess is {}, but errorCode is {}",
+                             isMasked ? kMask : isSuccess.text, isMasked ? kMask : errorCode.text));
   }
 }
 
@@ -68,7 +68,9 @@ void CheckParentName(const Place& place, const Member& name, const Member* paren
 }  // namespace
 
 void StepCheck::Check(const Place& place, const LogEntry& entry) {
-  const auto& found = members_.Check(place, kStepRecord, entry.members);
+  // The event ID of a step is free text, and may be that of a private metric.
+  const bool isMasked = privacy_.IsMasked(entry.Text("eventId"));
+  const auto& found = members_.Check(place, kStepRecord, entry.members, isMasked);
   if (found[kSpanId] != nullptr) {
     chain_.AddSpan(place, found[kSpanId]->text);
   }
@@ -76,16 +78,16 @@ void StepCheck::Check(const Place& place, const LogEntry& entry) {
     chain_.AddParent(place, found[kParentSpanId]->text);
   }
   if (found[kArgs] != nullptr) {
-    CheckArgs(place, entry);
+    CheckArgs(place, entry, isMasked);
   }
 }
 
-void StepCheck::CheckArgs(const Place& place, const LogEntry& entry) {
-  const auto& found = members_.Check(place, kStepArgs, entry.args);
+void StepCheck::CheckArgs(const Place& place, const LogEntry& entry, bool isMasked) {
+  const auto& found = members_.Check(place, kStepArgs, entry.args, isMasked);
   if (found[kErrorCode] != nullptr && found[kIsSuccess] != nullptr) {
-    CheckSuccess(place, *found[kErrorCode], *found[kIsSuccess], findings_);
+    CheckSuccess(place, *found[kErrorCode], *found[kIsSuccess], isMasked, findings_);
   }
-  CheckTimes(place, {found[kStartTime], found[kEndTime], found[kUsedTime]}, findings_);
+  CheckTimes(place, {found[kStartTime], found[kEndTime], found[kUsedTime]}, isMasked, findings_);
   if (found[kStepName] != nullptr) {
     CheckParentName(place, *found[kStepName], found[kParentStepName], findings_);
   }

@@ -15,7 +15,7 @@ namespace vmetrics {
 class StepCheck {
  public:
   StepCheck(const Privacy& privacy, Findings& findings)
-      : findings_(findings), members_(privacy, findings), chain_(findings) {}
+      : privacy_(privacy), findings_(findings), members_(privacy, findings), chain_(findings) {}
 
   void Check(const Place& place, const LogEntry& entry);
 
@@ -23,8 +23,9 @@ class StepCheck {
   void Finish() { chain_.Finish(); }
 
  private:
-  void CheckArgs(const Place& place, const LogEntry& entry);
+  void CheckArgs(const Place& place, const LogEntry& entry, bool isMasked);
 
+  const Privacy& privacy_;
   Findings& findings_;
   MemberCheck members_;
   SpanChain chain_;

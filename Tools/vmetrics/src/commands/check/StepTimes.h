@@ -13,8 +13,9 @@ struct StepTimes {
   const Member* used;
 };
 
-/// Adds to the findings what is wrong with the times; nothing where one is null or no time.
-void CheckTimes(const Place& place, const StepTimes& times, Findings& findings);
+/// Adds to the findings what is wrong with the times, with `isMasked` none of their values; nothing
+/// where one is null or no time.
+void CheckTimes(const Place& place, const StepTimes& times, bool isMasked, Findings& findings);
 
 }  // namespace vmetrics
 

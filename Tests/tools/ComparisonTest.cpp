@@ -43,13 +43,16 @@ TEST(ComparisonTest, ThresholdIsTheUsers) {
   EXPECT_EQ(Judged(Step("a", 200), Step("a", 301), rule).verdict, Verdict::kWorse);
 }
 
-TEST(ComparisonTest, FewMillisecondsAreNoGrowth) {
-  EXPECT_EQ(Judged(Step("a", 0), Step("a", 4)).verdict, Verdict::kSame);
-  EXPECT_EQ(Judged(Step("a", 0), Step("a", 5)).verdict, Verdict::kWorse);
+TEST(ComparisonTest, AnyGrowthBeyondTheThresholdCounts) {
+  EXPECT_EQ(Judged(Step("a", 0), Step("a", 0)).verdict, Verdict::kSame);
+  EXPECT_EQ(Judged(Step("a", 0), Step("a", 1)).verdict, Verdict::kWorse);
+}
+
+TEST(ComparisonTest, FewMillisecondsAreNoGrowthOnDemand) {
   Rule rule;
-  rule.leastGrowth = 0;
-  EXPECT_EQ(Judged(Step("a", 0), Step("a", 0), rule).verdict, Verdict::kSame);
-  EXPECT_EQ(Judged(Step("a", 0), Step("a", 1), rule).verdict, Verdict::kWorse);
+  rule.leastGrowth = 5;
+  EXPECT_EQ(Judged(Step("a", 0), Step("a", 4), rule).verdict, Verdict::kSame);
+  EXPECT_EQ(Judged(Step("a", 0), Step("a", 5), rule).verdict, Verdict::kWorse);
 }
 
 TEST(ComparisonTest, FailureRateMayGrowByTheThresholdInPoints) {
@@ -61,10 +64,25 @@ TEST(ComparisonTest, FailureRateMayGrowByTheThresholdInPoints) {
   EXPECT_FALSE(worse.medianGrew);
 }
 
-TEST(ComparisonTest, FewRecordsAreNotJudged) {
-  EXPECT_EQ(Judged(Step("a", 1, 0, 9), Step("a", 900)).verdict, Verdict::kFew);
-  EXPECT_EQ(Judged(Step("a", 1), Step("a", 900, 0, 9)).verdict, Verdict::kFew);
-  EXPECT_EQ(Judged(Step("a", 1, 0, 10), Step("a", 900, 0, 10)).verdict, Verdict::kWorse);
+TEST(ComparisonTest, OneRecordInEachLogIsJudged) {
+  EXPECT_EQ(Judged(Step("a", 1, 0, 1), Step("a", 900, 0, 1)).verdict, Verdict::kWorse);
+}
+
+TEST(ComparisonTest, FewRecordsAreNotJudgedOnDemand) {
+  Rule rule;
+  rule.leastCount = 10;
+  EXPECT_EQ(Judged(Step("a", 1, 0, 9), Step("a", 900), rule).verdict, Verdict::kFew);
+  EXPECT_EQ(Judged(Step("a", 1), Step("a", 900, 0, 9), rule).verdict, Verdict::kFew);
+  EXPECT_EQ(Judged(Step("a", 1, 0, 10), Step("a", 900, 0, 10), rule).verdict, Verdict::kWorse);
+}
+
+TEST(ComparisonTest, OutcomeIsThatOfStepsAlone) {
+  const Outcome outcome = OutcomeOf(
+      Compare({Step("b", 1), Step("same", 1), Step("worse", 1), Metric(1, 1)},
+              {Step("a", 1), Step("c", 1), Step("same", 1), Step("worse", 9), Metric(2, 1)}, {}));
+  EXPECT_EQ(outcome.judged, 2U);
+  EXPECT_EQ(outcome.worse, 1U);
+  EXPECT_EQ(outcome.notJudged, 3U);
 }
 
 TEST(ComparisonTest, MissingMedianHasNotGrown) {

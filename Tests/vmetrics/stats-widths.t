@@ -43,7 +43,7 @@ On terminals of 60 and of 200 columns. Nothing is cut, and no line is longer tha
     fileshareFileSize (654966786)
             10->10  617.3M->617.3M   1.235G->1.235G
   
-  ! worse: the median grew by more than 10% and at least 5 ms,
+  ! worse: the median grew by more than 10%,
     or the failure rate by more than 10 percentage points
   2 steps are worse.
   $ on 200 'vmetrics stats --compare old new'
@@ -54,7 +54,7 @@ On terminals of 60 and of 200 columns. Nothing is cut, and no line is longer tha
     METRIC                          COUNT          MEDIAN              P95
     fileshareFileSize (654966786)  10->10  617.3M->617.3M   1.235G->1.235G
   
-  ! worse: the median grew by more than 10% and at least 5 ms,
+  ! worse: the median grew by more than 10%,
     or the failure rate by more than 10 percentage points
   2 steps are worse.
   $ on 60 'vmetrics stats --by hour new'

@@ -50,4 +50,18 @@ std::vector<Change> Compare(const std::vector<Summary>& before, const std::vecto
   return changes;
 }
 
+Outcome OutcomeOf(const std::vector<Change>& changes) {
+  Outcome outcome;
+  for (const Change& change : changes) {
+    const bool isWorse = change.verdict == Verdict::kWorse;
+    if (isWorse || change.verdict == Verdict::kSame) {
+      ++outcome.judged;
+      outcome.worse += isWorse ? 1 : 0;
+    } else if (change.key.IsStep()) {
+      ++outcome.notJudged;
+    }
+  }
+  return outcome;
+}
+
 }  // namespace vmetrics

@@ -12,9 +12,9 @@ namespace vmetrics {
 
 /// When a step counts as worse.
 struct Rule {
-  double threshold = 10;          ///< Percent of the median, percentage points of the failure rate.
-  double leastGrowth = 5;         ///< Milliseconds; a median that grew by less has not.
-  std::uint64_t leastCount = 10;  ///< Records in either log; with less a step is not judged.
+  double threshold = 10;         ///< Percent of the median, percentage points of the failure rate.
+  double leastGrowth = 0;        ///< Milliseconds; a median that grew by less has not.
+  std::uint64_t leastCount = 1;  ///< Records in either log; with less a step is not judged.
 };
 
 enum class Verdict {
@@ -39,6 +39,15 @@ struct Change {
 /// Both lists side by side; they are in the order of their keys, and so is the result.
 std::vector<Change> Compare(const std::vector<Summary>& before, const std::vector<Summary>& after,
                             const Rule& rule);
+
+/// What has become of the steps.
+struct Outcome {
+  std::uint64_t judged = 0;
+  std::uint64_t worse = 0;      ///< Of the judged ones.
+  std::uint64_t notJudged = 0;  ///< Too few records, or in one of the logs only.
+};
+
+Outcome OutcomeOf(const std::vector<Change>& changes);
 
 }  // namespace vmetrics
 

@@ -10,6 +10,7 @@
 #include "Csv.h"
 #include "JsonText.h"
 #include "Table.h"
+#include "Text.h"
 
 namespace vmetrics {
 
@@ -105,6 +106,8 @@ void AddChange(Table& table, const Change& change) {
   table.AddRow(std::move(cells), change.verdict == Verdict::kWorse ? Style::kRed : Style::kPlain);
 }
 
+const char* IsOrAre(std::uint64_t count) { return count == 1 ? "is" : "are"; }
+
 double GreatestError(const std::vector<Change>& changes) {
   double greatest = 0;
   for (const Change& change : changes) {
@@ -115,27 +118,42 @@ double GreatestError(const std::vector<Change>& changes) {
   return greatest;
 }
 
+std::string LeastGrowthText(const Rule& rule) {
+  return rule.leastGrowth > 0 ? fmt::format(" and at least {} ms", rule.leastGrowth)
+                              : std::string();
+}
+
+/// The last line; none where no step could be judged, as then there is nothing to rely on.
+std::string OutcomeText(const Outcome& outcome) {
+  if (outcome.judged == 0) {
+    return {};
+  }
+  std::string text = outcome.worse == 0 ? "No step is worse"
+                                        : fmt::format("{} {} worse", Counted(outcome.worse, "step"),
+                                                      IsOrAre(outcome.worse));
+  if (outcome.notJudged > 0) {
+    text += fmt::format(", {} {} not judged", outcome.notJudged, IsOrAre(outcome.notJudged));
+  }
+  return text + ".\n";
+}
+
 void WriteLegend(const std::vector<Change>& changes, const Rule& rule) {
-  const auto explain = [&changes](Verdict verdict, const std::string& meaning) {
+  std::string legend = ErrorLegend(GreatestError(changes));
+  const auto explain = [&](Verdict verdict, const std::string& meaning) {
     if (std::any_of(changes.begin(), changes.end(),
                     [verdict](const Change& change) { return change.verdict == verdict; })) {
-      Write(MarkOf(verdict) + meaning + '\n');
+      legend += MarkOf(verdict) + meaning + '\n';
     }
   };
-  Write("\n" + ErrorLegend(GreatestError(changes)));
-  explain(Verdict::kWorse,
-          fmt::format("worse: the median grew by more than {0}% and at least {1} ms,\n"
-                      "  or the failure rate by more than {0} percentage points",
-                      rule.threshold, rule.leastGrowth));
-  explain(Verdict::kFew,
-          fmt::format("not judged: fewer than {} records in one of the logs", rule.leastCount));
+  explain(Verdict::kWorse, fmt::format("worse: the median grew by more than {0}%{1},\n"
+                                       "  or the failure rate by more than {0} percentage points",
+                                       rule.threshold, LeastGrowthText(rule)));
+  explain(Verdict::kFew, fmt::format("not judged: fewer than {} in one of the logs",
+                                     Counted(rule.leastCount, "record")));
   explain(Verdict::kAdded, "in the new log only");
   explain(Verdict::kGone, "in the old log only");
-  const auto worse = std::count_if(changes.begin(), changes.end(), [](const Change& change) {
-    return change.verdict == Verdict::kWorse;
-  });
-  Write(worse == 0 ? "No step is worse.\n"
-                   : fmt::format("{} step{} worse.\n", worse, worse == 1 ? " is" : "s are"));
+  legend += OutcomeText(OutcomeOf(changes));
+  Write(legend.empty() ? legend : '\n' + legend);
 }
 
 void WriteTables(const std::vector<Change>& changes, const Rule& rule) {

@@ -76,13 +76,13 @@ void AddComparisonOptions(CLI::App& command, StatsOptions& options, CLI::Option*
       ->needs(compare);
   command
       .add_option("--min-growth", options.rule.leastGrowth,
-                  "No median counts as grown that grew by less; 5 unless given")
+                  "No median counts as grown that grew by less; 0 unless given")
       ->option_text("MS")
       ->check(IsFinite)
       ->needs(compare);
   command
       .add_option("--min-count", options.rule.leastCount,
-                  "No step is judged that has fewer records in one of the logs; 10 unless given")
+                  "No step is judged that has fewer records in one of the logs; 1 unless given")
       ->option_text("COUNT")
       ->check(IsCount)
       ->needs(compare);
@@ -140,6 +140,27 @@ int ConcludeStatistics(const LogStatistics& statistics, int status) {
   return kTrouble;
 }
 
+/// Metrics are not judged: who asks for them alone asks for no comparison of steps.
+bool WantsSteps(const SeriesChoice& choice) {
+  return choice.metrics.empty() || !choice.steps.empty();
+}
+
+void ComplainOfNoneCompared(const Rule& rule) {
+  const std::string where = rule.leastCount > 1
+                                ? fmt::format("has {} records in both logs", rule.leastCount)
+                                : "is in both logs";
+  Complain("no step could be compared: none " + where);
+}
+
+/// The exit status that answers whether a step is worse.
+int StatusOf(const Outcome& outcome, const StatsOptions& options) {
+  if (outcome.judged > 0 || !WantsSteps(options.choice)) {
+    return outcome.worse > 0 ? kFindings : kSuccess;
+  }
+  ComplainOfNoneCompared(options.rule);
+  return kTrouble;
+}
+
 int ShowSummaries(StatsOptions& options) {
   LogStatistics statistics(options.choice, options.privacy);
   ReadLog(options.files, statistics);
@@ -159,10 +180,9 @@ int ShowComparison(StatsOptions& options) {
   const std::vector<Change> changes =
       Compare(Summarise(before, options.privacy), Summarise(after, options.privacy), options.rule);
   WriteChanges(changes, options.rule, options.format);
-  const bool isWorse = std::any_of(changes.begin(), changes.end(), [](const Change& change) {
-    return change.verdict == Verdict::kWorse;
-  });
-  const int status = oldFiles.Conclude(options.files.Conclude(isWorse ? kFindings : kSuccess));
+  FinishOutput();
+  const int status =
+      oldFiles.Conclude(options.files.Conclude(StatusOf(OutcomeOf(changes), options)));
   return ConcludeStatistics(before, ConcludeStatistics(after, status));
 }
 

@@ -268,16 +268,16 @@ Colours, on a terminal alone:
 Wrong usage:
 
   $ vmetrics catalogue lint
-  vmetrics: catalogue lint needs a file, --definitions FILE or --event-definitions FILE; see vmetrics --help
+  vmetrics: catalogue lint needs a file, --definitions FILE or --event-definitions FILE; see vmetrics catalogue lint --help
   [2]
   $ vmetrics catalogue lint good.def
-  vmetrics: The following argument was not expected: good.def; see vmetrics --help
+  vmetrics: not understood: good.def; see vmetrics catalogue lint --help
   [2]
   $ vmetrics catalogue --definitions good.def lint
-  vmetrics: --definitions stands in front of lint, whose options stand behind it; see vmetrics --help
+  vmetrics: --definitions stands in front of lint, whose options stand behind it; see vmetrics catalogue lint --help
   [2]
   $ vmetrics catalogue lint --definitions good.def --format csv
-  vmetrics: --format: csv not in {text,json}; see vmetrics --help
+  vmetrics: --format: "csv" is none of text, json; see vmetrics catalogue lint --help
   [2]
 
   $ vmetrics catalogue lint --help

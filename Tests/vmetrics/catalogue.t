@@ -411,22 +411,22 @@ Without a file that it was told to read it says nothing:
 Wrong usage:
 
   $ vmetrics catalogue --side left
-  vmetrics: --side: left not in {client,server}; see vmetrics --help
+  vmetrics: --side: "left" is none of client, server; see vmetrics catalogue --help
   [2]
   $ vmetrics catalogue --format yaml
-  vmetrics: --format: yaml not in {table,json,csv,markdown}; see vmetrics --help
+  vmetrics: --format: "yaml" is none of table, json, csv, markdown; see vmetrics catalogue --help
   [2]
   $ vmetrics catalogue --private --public
-  vmetrics: --private excludes --public; see vmetrics --help
+  vmetrics: --private excludes --public; see vmetrics catalogue --help
   [2]
   $ vmetrics catalogue --colour
-  vmetrics: The following argument was not expected: --colour; see vmetrics --help
+  vmetrics: not understood: --colour; see vmetrics catalogue --help
   [2]
   $ vmetrics catalogue display
-  vmetrics: The following argument was not expected: display; see vmetrics --help
+  vmetrics: not understood: display; see vmetrics catalogue --help
   [2]
   $ vmetrics catalogue --name
-  vmetrics: --name: 1 required TEXT missing; see vmetrics --help
+  vmetrics: --name needs a value; see vmetrics catalogue --help
   [2]
 
 A result that cannot be written is trouble:

@@ -154,19 +154,19 @@ Output that cannot be written is trouble, too:
 Wrong usage:
 
   $ vmetrics check --ignore nothing one.log
-  vmetrics: --ignore: nothing not in {not-json,glued,too-long,no-record,member,extra-member,duplicate-key,unknown-id,args,no-args,span-form,duplicate-span,time,used-time,is-success,parent-step,unlocked-parent,missing-parent}; see vmetrics --help
+  vmetrics: --ignore: "nothing" is no kind of findings; see vmetrics check --help
   [2]
   $ vmetrics check --format xml one.log
-  vmetrics: --format: xml not in {text,json}; see vmetrics --help
+  vmetrics: --format: "xml" is none of text, json; see vmetrics check --help
   [2]
   $ vmetrics check --max -1 one.log
-  vmetrics: --max: -1 is no number of findings; see vmetrics --help
+  vmetrics: --max: "-1" is no whole number from 0 to 18446744073709551615; see vmetrics check --help
   [2]
   $ vmetrics check --max many one.log
-  vmetrics: --max: many is no number of findings; see vmetrics --help
+  vmetrics: --max: "many" is no whole number from 0 to 18446744073709551615; see vmetrics check --help
   [2]
   $ vmetrics check --unknown
-  vmetrics: The following argument was not expected: --unknown; see vmetrics --help
+  vmetrics: not understood: --unknown; see vmetrics check --help
   [2]
 
 Names of files may be anything:

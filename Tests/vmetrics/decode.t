@@ -168,13 +168,13 @@ File names are taken as they stand:
 Wrong usage:
 
   $ vmetrics decode --numeric --string one.bin
-  vmetrics: decode takes one of --numeric, --string and --message; see vmetrics --help
+  vmetrics: decode takes one of --numeric, --string and --message; see vmetrics decode --help
   [2]
   $ vmetrics decode --string --message one.bin
-  vmetrics: decode takes one of --numeric, --string and --message; see vmetrics --help
+  vmetrics: decode takes one of --numeric, --string and --message; see vmetrics decode --help
   [2]
   $ vmetrics decode --unknown
-  vmetrics: The following argument was not expected: --unknown; see vmetrics --help
+  vmetrics: not understood: --unknown; see vmetrics decode --help
   [2]
 
 A full disk:

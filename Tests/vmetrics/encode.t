@@ -158,56 +158,56 @@ An event ID may look like a number:
 Values that are none of their type:
 
   $ vmetrics encode 302645249 2147483648
-  vmetrics: "2147483648" is no int, as 302645249 needs it: a whole number from -2147483648 to 2147483647; see vmetrics --help
+  vmetrics: "2147483648" is no int, as 302645249 needs it: a whole number from -2147483648 to 2147483647; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645249 1 2 x
-  vmetrics: "x" is no int, as 302645249 needs it: a whole number from -2147483648 to 2147483647; see vmetrics --help
+  vmetrics: "x" is no int, as 302645249 needs it: a whole number from -2147483648 to 2147483647; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645249 ''
-  vmetrics: "" is no int, as 302645249 needs it: a whole number from -2147483648 to 2147483647; see vmetrics --help
+  vmetrics: "" is no int, as 302645249 needs it: a whole number from -2147483648 to 2147483647; see vmetrics encode --help
   [2]
   $ vmetrics encode 654966786 -1
-  vmetrics: "-1" is no uint64_t, as 654966786 needs it: a whole number from 0 to 18446744073709551615; see vmetrics --help
+  vmetrics: "-1" is no uint64_t, as 654966786 needs it: a whole number from 0 to 18446744073709551615; see vmetrics encode --help
   [2]
   $ vmetrics encode --definitions definitions 5 9223372036854775808
-  vmetrics: "9223372036854775808" is no int64_t, as 5 needs it: a whole number from -9223372036854775808 to 9223372036854775807; see vmetrics --help
+  vmetrics: "9223372036854775808" is no int64_t, as 5 needs it: a whole number from -9223372036854775808 to 9223372036854775807; see vmetrics encode --help
   [2]
   $ vmetrics encode 789184515 1e999
-  vmetrics: "1e999" is no double, as 789184515 needs it: a number within the range of 64 bits; see vmetrics --help
+  vmetrics: "1e999" is no double, as 789184515 needs it: a number within the range of 64 bits; see vmetrics encode --help
   [2]
   $ vmetrics encode 537526275 yes
-  vmetrics: "yes" is no bool, as 537526275 needs it: true, false, 1 or 0; see vmetrics --help
+  vmetrics: "yes" is no bool, as 537526275 needs it: true, false, 1 or 0; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645256 1.5
-  vmetrics: "1.5" is no enum, as 302645256 needs it: a whole number from -2147483648 to 2147483647; see vmetrics --help
+  vmetrics: "1.5" is no enum, as 302645256 needs it: a whole number from -2147483648 to 2147483647; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645257 '{"a":}'
-  vmetrics: "{"a":}" is no json, as 302645257 needs it: a value is missing at byte 5 of it, '}'; see vmetrics --help
+  vmetrics: "{"a":}" is no json, as 302645257 needs it: a value is missing at byte 5 of it, '}'; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645257 '{"a":1'
-  vmetrics: "{"a":1" is no json, as 302645257 needs it: a comma or } is missing at byte 6 of it, where it ends; see vmetrics --help
+  vmetrics: "{"a":1" is no json, as 302645257 needs it: a comma or } is missing at byte 6 of it, where it ends; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645257 "[$(head -c 300 /dev/zero | tr '\0' 1)"
-  vmetrics: "[11111111111111111111111111111111111111111111111111111111111111111111111111111111111111111111111111…" is no json, as 302645257 needs it: a comma or ] is missing at byte 301 of it, where it ends; see vmetrics --help
+  vmetrics: "[11111111111111111111111111111111111111111111111111111111111111111111111111111111111111111111111111\xe2\x80\xa6" is no json, as 302645257 needs it: a comma or ] is missing at byte 301 of it, where it ends; see vmetrics encode --help (esc)
   [2]
   $ echo '6;blob;odd;0' >types
   $ vmetrics encode --definitions types 6 x
-  vmetrics: 6 is of type "blob", which has no values; --raw gives bytes instead; see vmetrics --help
+  vmetrics: 6 is of type "blob", which has no values; --raw gives bytes instead; see vmetrics encode --help
   [2]
 
 Metrics that the catalogue does not have:
 
   $ vmetrics encode 2131427329 1
-  vmetrics: there is no metric "2131427329" in the catalogue, so the type of its value is unknown: name a file of --definitions, or give bytes by --raw; see vmetrics --help
+  vmetrics: there is no metric "2131427329" in the catalogue, so the type of its value is unknown: name a file of --definitions, or give bytes by --raw; see vmetrics encode --help
   [2]
   $ vmetrics encode nobody 1
-  vmetrics: there is no event ID "nobody" in the catalogue, so the type of its value is unknown: name a file of --event-definitions, or give bytes by --raw; see vmetrics --help
+  vmetrics: there is no event ID "nobody" in the catalogue, so the type of its value is unknown: name a file of --event-definitions, or give bytes by --raw; see vmetrics encode --help
   [2]
   $ vmetrics encode 4294967296 1
-  vmetrics: there is no event ID "4294967296" in the catalogue, so the type of its value is unknown: name a file of --event-definitions, or give bytes by --raw; see vmetrics --help
+  vmetrics: there is no event ID "4294967296" in the catalogue, so the type of its value is unknown: name a file of --event-definitions, or give bytes by --raw; see vmetrics encode --help
   [2]
   $ vmetrics encode '' 1
-  vmetrics: there is no event ID "" in the catalogue, so the type of its value is unknown: name a file of --event-definitions, or give bytes by --raw; see vmetrics --help
+  vmetrics: there is no event ID "" in the catalogue, so the type of its value is unknown: name a file of --event-definitions, or give bytes by --raw; see vmetrics encode --help
   [2]
   $ vmetrics encode --definitions missing 5 1
   vmetrics: missing: No such file or directory
@@ -217,25 +217,25 @@ Texts and values that are too long; the longest that are not:
 
   $ text() { head -c $1 /dev/zero | tr '\0' x; }
   $ vmetrics encode nox_user_connect '{}' --user "$(text 129)"
-  vmetrics: --user has 129 bytes; its field holds 128; see vmetrics --help
+  vmetrics: --user has 129 bytes; its field holds 128; see vmetrics encode --help
   [2]
   $ vmetrics encode nox_user_connect '{}' --transaction "$(text 65)"
-  vmetrics: --transaction has 65 bytes; its field holds 64; see vmetrics --help
+  vmetrics: --transaction has 65 bytes; its field holds 64; see vmetrics encode --help
   [2]
   $ vmetrics encode nox_user_connect '{}' --business-type "$(text 33)"
-  vmetrics: --business-type has 33 bytes; its field holds 32; see vmetrics --help
+  vmetrics: --business-type has 33 bytes; its field holds 32; see vmetrics encode --help
   [2]
   $ vmetrics encode nox_user_connect '{}' --service "$(text 33)"
-  vmetrics: --service has 33 bytes; its field holds 32; see vmetrics --help
+  vmetrics: --service has 33 bytes; its field holds 32; see vmetrics encode --help
   [2]
   $ vmetrics encode "$(text 129)" --raw 00
-  vmetrics: the event ID has 129 bytes; its field holds 128; see vmetrics --help
+  vmetrics: the event ID has 129 bytes; its field holds 128; see vmetrics encode --help
   [2]
   $ vmetrics encode nox_user_connect '{}' --user "$(text 128)" --transaction "$(text 64)" \
   >   --business-type "$(text 32)" --service "$(text 32)" | wc -c
   398
   $ vmetrics encode 302645253 "$(text 65536)"
-  vmetrics: a value has 65536 bytes; 65535 are the most that is rendered; see vmetrics --help
+  vmetrics: a value has 65536 bytes; 65535 are the most that is rendered; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645253 "$(text 65535)" | wc -c
   65547
@@ -243,43 +243,43 @@ Texts and values that are too long; the longest that are not:
 Other wrong usage:
 
   $ vmetrics encode
-  vmetrics: id is required; see vmetrics --help
+  vmetrics: id is required; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645249
-  vmetrics: a value is missing; see vmetrics --help
+  vmetrics: a value is missing; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645249 1 --raw 00
-  vmetrics: there are both values and --raw; see vmetrics --help
+  vmetrics: there are both values and --raw; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645249 --raw 0x3c
-  vmetrics: --raw:1:2: 'x' is no hexadecimal digit; see vmetrics --help
+  vmetrics: --raw:1:2: 'x' is no hexadecimal digit; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645249 --raw 3
-  vmetrics: --raw:1:1: the text ends in the middle of a byte, which has two digits; see vmetrics --help
+  vmetrics: --raw:1:1: the text ends in the middle of a byte, which has two digits; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645249 1 --terminal x
-  vmetrics: --terminal: "x" is no whole number from -2147483648 to 4294967295 or 0xFFFFFFFF; see vmetrics --help
+  vmetrics: --terminal: "x" is no whole number from -2147483648 to 4294967295 or 0xFFFFFFFF; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645249 1 --terminal 4294967296
-  vmetrics: --terminal: "4294967296" is no whole number from -2147483648 to 4294967295 or 0xFFFFFFFF; see vmetrics --help
+  vmetrics: --terminal: "4294967296" is no whole number from -2147483648 to 4294967295 or 0xFFFFFFFF; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645249 1 --user alice
-  vmetrics: --user needs an event ID; see vmetrics --help
+  vmetrics: --user needs an event ID; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645249 1 --source-module 1
-  vmetrics: --source-module needs --message; see vmetrics --help
+  vmetrics: --source-module needs --message; see vmetrics encode --help
   [2]
   $ vmetrics encode nox_user_connect '{}' --message
-  vmetrics: --message needs a metric with a number, not "nox_user_connect"; see vmetrics --help
+  vmetrics: --message needs a metric with a number, not "nox_user_connect"; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645249 --unknown 1
-  vmetrics: The following argument was not expected: --unknown; see vmetrics --help
+  vmetrics: not understood: --unknown; see vmetrics encode --help
   [2]
 
 A terminal is no place for bytes:
 
   $ script -qec 'vmetrics encode 302645249 60' /dev/null </dev/null | tr -d '\r'
-  vmetrics: a record is no text for a terminal: use --hex, or send it elsewhere; see vmetrics --help
+  vmetrics: a record is no text for a terminal: use --hex, or send it elsewhere; see vmetrics encode --help
   $ script -qec 'vmetrics encode --hex 302645249 60 | tail -n 2' /dev/null </dev/null | tr -d '\r'
   3c 00 00 00              # data: 60
   

@@ -176,34 +176,34 @@ vmetrics does not hold on to them: who reads from the command sees it close its 
 Wrong usage is a failure of vmetrics itself, and the command is not run:
 
   $ vmetrics run
-  vmetrics: --step is required; see vmetrics --help
+  vmetrics: --step is required; see vmetrics run --help
   [125]
   $ vmetrics run --step s
-  vmetrics: there is no command; it stands behind --; see vmetrics --help
+  vmetrics: there is no command; it stands behind --; see vmetrics run --help
   [125]
   $ vmetrics run --step s --
-  vmetrics: there is no command; it stands behind --; see vmetrics --help
+  vmetrics: there is no command; it stands behind --; see vmetrics run --help
   [125]
   $ vmetrics run --step s echo
-  vmetrics: echo: what is not an option stands behind --; see vmetrics --help
+  vmetrics: echo: what is not an option stands behind --; see vmetrics run --help
   [125]
   $ vmetrics run --step s --unknown -- echo
-  vmetrics: The following argument was not expected: --unknown; see vmetrics --help
+  vmetrics: not understood: --unknown; see vmetrics run --help
   [125]
   $ vmetrics run --step -- echo
-  vmetrics: --step: 1 required NAME missing; see vmetrics --help
+  vmetrics: --step needs a value; see vmetrics run --help
   [125]
   $ vmetrics run --step '' -- echo
-  vmetrics: --step: the name is empty; see vmetrics --help
+  vmetrics: --step: the name is empty; see vmetrics run --help
   [125]
   $ vmetrics run --step s --transaction '' -- echo
-  vmetrics: --transaction: the identifier is empty; see vmetrics --help
+  vmetrics: --transaction: the identifier is empty; see vmetrics run --help
   [125]
   $ vmetrics run --step s --parent x --parent-from-file -- echo
-  vmetrics: --parent excludes --parent-from-file; see vmetrics --help
+  vmetrics: --parent excludes --parent-from-file; see vmetrics run --help
   [125]
   $ vmetrics run --step s --span-directory "$(printf '%4096s' x)" -- echo
-  vmetrics: --span-directory: the name is too long; see vmetrics --help
+  vmetrics: --span-directory: the name is too long; see vmetrics run --help
   [125]
 
 Help:

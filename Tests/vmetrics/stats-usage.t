@@ -1,43 +1,43 @@
 What is not understood is told, with exit status 2:
 
   $ vmetrics stats --unknown
-  vmetrics: The following argument was not expected: --unknown; see vmetrics --help
+  vmetrics: not understood: --unknown; see vmetrics stats --help
   [2]
   $ vmetrics stats --format xml
-  vmetrics: --format: xml not in {table,json,csv}; see vmetrics --help
+  vmetrics: --format: "xml" is none of table, json, csv; see vmetrics stats --help
   [2]
   $ vmetrics stats --by week
-  vmetrics: --by: week not in {hour,day}; see vmetrics --help
+  vmetrics: --by: "week" is none of hour, day; see vmetrics stats --help
   [2]
   $ vmetrics stats --metric 4294967296
-  vmetrics: --metric: 4294967296 is no metric ID; see vmetrics --help
+  vmetrics: --metric: 4294967296 is no metric ID; see vmetrics stats --help
   [2]
   $ vmetrics stats --metric displayFPS
-  vmetrics: --metric: displayFPS is no metric ID; see vmetrics --help
+  vmetrics: --metric: displayFPS is no metric ID; see vmetrics stats --help
   [2]
   $ vmetrics stats --threshold 5 log
-  vmetrics: --threshold requires --compare; see vmetrics --help
+  vmetrics: --threshold requires --compare; see vmetrics stats --help
   [2]
   $ vmetrics stats --min-growth 5 log
-  vmetrics: --min-growth requires --compare; see vmetrics --help
+  vmetrics: --min-growth requires --compare; see vmetrics stats --help
   [2]
   $ vmetrics stats --min-count 5 log
-  vmetrics: --min-count requires --compare; see vmetrics --help
+  vmetrics: --min-count requires --compare; see vmetrics stats --help
   [2]
   $ vmetrics stats --compare old --by day
-  vmetrics: --by excludes --compare; see vmetrics --help
+  vmetrics: --by excludes --compare; see vmetrics stats --help
   [2]
   $ vmetrics stats --compare old --threshold -1 new
-  vmetrics: --threshold: -1 is no number from 0 on; see vmetrics --help
+  vmetrics: --threshold: "-1" is no number from 0 on; see vmetrics stats --help
   [2]
   $ vmetrics stats --compare old --threshold nan new
-  vmetrics: --threshold: nan is no number from 0 on; see vmetrics --help
+  vmetrics: --threshold: "nan" is no number from 0 on; see vmetrics stats --help
   [2]
   $ vmetrics stats --compare old --min-growth 1e999 new
-  vmetrics: --min-growth: 1e999 is no number from 0 on; see vmetrics --help
+  vmetrics: --min-growth: "1e999" is no number from 0 on; see vmetrics stats --help
   [2]
   $ vmetrics stats --compare old --min-count 1.5 new
-  vmetrics: --min-count: 1.5 is no whole number from 0 on; see vmetrics --help
+  vmetrics: --min-count: "1.5" is no whole number from 0 to 18446744073709551615; see vmetrics stats --help
   [2]
   $ vmetrics stats --compare -
   vmetrics: standard input can be one of the logs only: name a file; see vmetrics --help
@@ -46,7 +46,7 @@ What is not understood is told, with exit status 2:
   vmetrics: standard input can be one of the logs only: name a file; see vmetrics --help
   [2]
   $ vmetrics stats --compare
-  vmetrics: --compare: 1 required TEXT missing; see vmetrics --help
+  vmetrics: --compare needs a value; see vmetrics stats --help
   [2]
   $ vmetrics stats --definitions missing
   vmetrics: missing: No such file or directory

@@ -60,26 +60,26 @@ Output that cannot be written:
 Wrong usage:
 
   $ vmetrics trace --last 0 whole.log
-  vmetrics: --last: Value 0 not in range 1 to 1000000000; see vmetrics --help
+  vmetrics: --last: "0" is no whole number from 1 to 1000000000; see vmetrics trace --help
   [2]
   $ vmetrics trace --last many whole.log
-  vmetrics: --last: Value many not in range 1 to 1000000000; see vmetrics --help
+  vmetrics: --last: "many" is no whole number from 1 to 1000000000; see vmetrics trace --help
   [2]
   $ vmetrics trace --last
-  vmetrics: --last: 1 required N missing; see vmetrics --help
+  vmetrics: --last needs a value; see vmetrics trace --help
   [2]
   $ vmetrics trace --slower-than -1 whole.log
-  vmetrics: --slower-than: Value -1 not in range 0 to 253402300799999; see vmetrics --help
+  vmetrics: --slower-than: "-1" is no whole number from 0 to 253402300799999; see vmetrics trace --help
   [2]
   $ vmetrics trace --slower-than 1s whole.log
-  vmetrics: --slower-than: Value 1s not in range 0 to 253402300799999; see vmetrics --help
+  vmetrics: --slower-than: "1s" is no whole number from 0 to 253402300799999; see vmetrics trace --help
   [2]
   $ vmetrics trace --format xml whole.log
-  vmetrics: --format: xml not in {text,json}; see vmetrics --help
+  vmetrics: --format: "xml" is none of text, json; see vmetrics trace --help
   [2]
   $ vmetrics trace --transaction
-  vmetrics: --transaction: 1 required ID missing; see vmetrics --help
+  vmetrics: --transaction needs a value; see vmetrics trace --help
   [2]
   $ vmetrics trace --unknown whole.log
-  vmetrics: The following argument was not expected: --unknown; see vmetrics --help
+  vmetrics: not understood: --unknown; see vmetrics trace --help
   [2]

@@ -1,4 +1,4 @@
-#include <fmt/core.h>
+#include <fmt/format.h>
 
 #include <algorithm>
 #include <exception>
@@ -19,7 +19,39 @@ bool IsRun(int argumentCount, char** arguments) {
   return argumentCount > 1 && std::string_view(arguments[1]) == "run";
 }
 
-int Run(int argumentCount, char** arguments) {
+/// What the user asked for, "vmetrics catalogue lint", as far as that is known.
+std::string NameOf(const CLI::App& program) {
+  std::string name = program.get_name();
+  for (const CLI::App* app = &program; !app->get_subcommands().empty();) {
+    app = app->get_subcommands().front();
+    name += ' ' + app->get_name();
+  }
+  return name;
+}
+
+/// The words of the parser as the tool's own.
+std::string TextOf(const CLI::ParseError& error) {
+  const std::string text = error.what();
+  const std::size_t colon = text.find(": ");
+  if (error.get_name() == "ArgumentMismatch" && colon != text.npos) {
+    const bool isMissing = text.find(" missing", colon) != text.npos;
+    return text.substr(0, colon) + (isMissing ? " needs a value" : " is given more than once");
+  }
+  return text;
+}
+
+/// What stands where a subcommand should.
+std::string TextOfUnknown(std::string_view argument) {
+  return fmt::format("there is no {} {}", argument.substr(0, 1) == "-" ? "option" : "subcommand",
+                     argument);
+}
+
+int ComplainOfUsage(const CLI::App& program, std::string_view text, int status) {
+  vmetrics::Complain(fmt::format("{}; see {} --help", vmetrics::Printable(text), NameOf(program)));
+  return status;
+}
+
+int Run(int argumentCount, char** arguments, int troubleStatus) {
   // What stands behind the first "--" of `run` is a command of the user's, which the parser must
   // not touch: to it "{}" and "[a,b]" are no plain texts.
   char** const end = arguments + argumentCount;
@@ -38,19 +70,21 @@ int Run(int argumentCount, char** arguments) {
   vmetrics::AddCheck(program, action);
   try {
     program.parse(static_cast<int>(separator - arguments), arguments);
+    return action();
   } catch (const CLI::Success& help) {
     return program.exit(help);
-  } catch (const CLI::RequiredError&) {
-    if (argumentCount > 1 && program.get_subcommands().empty()) {
-      throw vmetrics::UsageError(fmt::format("there is no subcommand {}", arguments[1]));
-    }
-    throw;
+  } catch (const CLI::RequiredError& error) {
+    const bool isUnknown = argumentCount > 1 && program.get_subcommands().empty();
+    const std::string text = isUnknown ? TextOfUnknown(arguments[1]) : error.what();
+    return ComplainOfUsage(program, text, troubleStatus);
+  } catch (const CLI::ExtrasError&) {
+    const std::string extras = fmt::format("{}", fmt::join(program.remaining(true), " "));
+    return ComplainOfUsage(program, "not understood: " + extras, troubleStatus);
+  } catch (const CLI::ParseError& error) {
+    return ComplainOfUsage(program, TextOf(error), troubleStatus);
+  } catch (const vmetrics::UsageError& error) {
+    return ComplainOfUsage(program, error.what(), troubleStatus);
   }
-  return action();
-}
-
-void ComplainOfUsage(const std::exception& error) {
-  vmetrics::Complain(fmt::format("{}; see vmetrics --help", vmetrics::Printable(error.what())));
 }
 
 }  // namespace
@@ -58,18 +92,15 @@ void ComplainOfUsage(const std::exception& error) {
 int main(int argumentCount, char** arguments) {
   // Of what the library has to say here, the tool tells its user itself, in words about the input.
   VPlatformConfig::SetDiagnosticsLevel(0);
-  try {
-    const int status = Run(argumentCount, arguments);
-    vmetrics::FinishOutput();
-    return status;
-  } catch (const CLI::ParseError& error) {
-    ComplainOfUsage(error);
-  } catch (const vmetrics::UsageError& error) {
-    ComplainOfUsage(error);
-  } catch (const std::exception& error) {
-    vmetrics::Complain(error.what());
-  }
   // A command that is run as a step has exit statuses of its own; this one is left to its wrapper.
   constexpr int kTroubleOfRun = 125;
-  return IsRun(argumentCount, arguments) ? kTroubleOfRun : vmetrics::kTrouble;
+  const int troubleStatus = IsRun(argumentCount, arguments) ? kTroubleOfRun : vmetrics::kTrouble;
+  try {
+    const int status = Run(argumentCount, arguments, troubleStatus);
+    vmetrics::FinishOutput();
+    return status;
+  } catch (const std::exception& error) {
+    vmetrics::Complain(error.what());
+    return troubleStatus;
+  }
 }

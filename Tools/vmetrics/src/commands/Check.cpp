@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "ArgumentChecks.h"
 #include "Command.h"
 #include "Definitions.h"
 #include "Format.h"
@@ -39,18 +40,11 @@ struct CheckOptions {
   Findings::Options findings;
 };
 
-/// What is wrong with the text of a number of findings; the parser would take a negative one.
-std::string RefusalOfCount(const std::string& text) {
-  const bool isCount = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
-  return isCount ? "" : text + " is no number of findings";
-}
-
-std::vector<std::string> KindNames() {
-  std::vector<std::string> names;
-  for (const FindingKindText& kind : kFindingKinds) {
-    names.emplace_back(kind.name);
-  }
-  return names;
+std::string RefusalOfKind(const std::string& text) {
+  const bool isKind =
+      std::any_of(kFindingKinds.begin(), kFindingKinds.end(),
+                  [&text](const FindingKindText& kind) { return kind.name == text; });
+  return isKind ? "" : fmt::format("\"{}\" is no kind of findings", text);
 }
 
 std::string KindsExplained() {
@@ -96,10 +90,10 @@ void AddCheck(CLI::App& program, Action& action) {
       ->option_text("KIND")
       ->delimiter(',')
       ->allow_extra_args(false)
-      ->check(CLI::IsMember(KindNames()));
+      ->check(CLI::Validator(RefusalOfKind, ""));
   command->add_option("--max", options->findings.most, "Write at most N findings, but count all")
       ->option_text("N")
-      ->check(CLI::Validator(RefusalOfCount, ""));
+      ->check(WholeNumber());
   AddFormat(*command, options->format, {"text", "json"});
   options->privacy.AddTo(*command);
   command->footer(KindsExplained() + "\n" + kExample);

@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include "ArgumentChecks.h"
+
 namespace vmetrics {
 
 void AddFormat(CLI::App& command, std::string& format, const std::vector<std::string>& names) {
@@ -9,7 +11,7 @@ void AddFormat(CLI::App& command, std::string& format, const std::vector<std::st
   command.add_option("--format", format)
       ->option_text("FORMAT")
       ->description(fmt::format("{}; without this option {}", fmt::join(names, ", "), format))
-      ->check(CLI::IsMember(names));
+      ->check(OneOf(names));
 }
 
 }  // namespace vmetrics

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "ArgumentChecks.h"
 #include "Command.h"
 #include "Format.h"
 #include "JsonArray.h"
@@ -29,9 +30,9 @@ constexpr const char* kFooter =
     "that cannot be read. See vmetrics-trace(1).";
 
 /// Milliseconds between the first and the last date.
-constexpr std::int64_t kLongest = 253402300799999;
+constexpr std::uint64_t kLongest = 253402300799999;
 /// More than fit into memory.
-constexpr std::size_t kMost = 1000000000;
+constexpr std::uint64_t kMost = 1000000000;
 
 class Trace {
  public:
@@ -65,12 +66,12 @@ void Trace::AddTo(CLI::App& command) {
       .add_option("--slower-than", selection_.slowerThan,
                   "Only transactions that took more milliseconds than this")
       ->type_name("MS")
-      ->check(CLI::Range(std::int64_t{0}, kLongest).description(""));
+      ->check(WholeNumber(0, kLongest));
   command
       .add_option("--last", selection_.last,
                   "Only the last so many of them, by the end of their last step")
       ->type_name("N")
-      ->check(CLI::Range(std::size_t{1}, kMost).description(""));
+      ->check(WholeNumber(1, kMost));
   command.add_flag("--links", showsLinks_,
                    "Show the parent span of each step, in whatever transaction it is");
   AddFormat(command, format_, {"text", "json"});

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "ArgumentChecks.h"
 #include "MetricId.h"
 
 namespace vmetrics {
@@ -54,7 +55,7 @@ void CatalogueFilter::AddTo(CLI::App& command) {
       ->option_text("GROUP");
   command.add_option("--side", side_, "Who reports the metric: client or server")
       ->option_text("SIDE")
-      ->check(CLI::IsMember({"client", "server"}));
+      ->check(OneOf({"client", "server"}));
   command.add_option("--type", type_, "The type of the value, as \"int\" or \"json\"")
       ->option_text("TYPE");
   // The blank keeps the help free of what excludes what.

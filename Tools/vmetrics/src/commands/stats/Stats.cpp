@@ -1,10 +1,8 @@
 #include <fmt/format.h>
 
-#include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <memory>
 
+#include "ArgumentChecks.h"
 #include "Command.h"
 #include "Definitions.h"
 #include "Format.h"
@@ -40,26 +38,6 @@ struct StatsOptions {
   Rule rule;
 };
 
-template <typename Number>
-bool IsNumber(const std::string& text, Number& number) {
-  const char* end = text.data() + text.size();
-  const std::from_chars_result result = std::from_chars(text.data(), end, number);
-  return result.ec == std::errc() && result.ptr == end;
-}
-
-/// What the parser of arguments would take for a number, infinity and "nan" included, is not
-/// enough.
-std::string IsFinite(const std::string& text) {
-  double number = 0;
-  const bool isGood = IsNumber(text, number) && std::isfinite(number) && number >= 0;
-  return isGood ? "" : fmt::format("{} is no number from 0 on", text);
-}
-
-std::string IsCount(const std::string& text) {
-  std::uint64_t number = 0;
-  return IsNumber(text, number) ? "" : fmt::format("{} is no whole number from 0 on", text);
-}
-
 void AddComparisonOptions(CLI::App& command, StatsOptions& options, CLI::Option* by) {
   CLI::Option* compare = command
                              .add_option("--compare", options.oldFile,
@@ -72,19 +50,19 @@ void AddComparisonOptions(CLI::App& command, StatsOptions& options, CLI::Option*
                   "A step is worse if its median grew by more than that, or its failure rate by "
                   "more than so many percentage points; 10 unless given")
       ->option_text("PERCENT")
-      ->check(IsFinite)
+      ->check(FiniteNumber())
       ->needs(compare);
   command
       .add_option("--min-growth", options.rule.leastGrowth,
                   "No median counts as grown that grew by less; 0 unless given")
       ->option_text("MS")
-      ->check(IsFinite)
+      ->check(FiniteNumber())
       ->needs(compare);
   command
       .add_option("--min-count", options.rule.leastCount,
                   "No step is judged that has fewer records in one of the logs; 1 unless given")
       ->option_text("COUNT")
-      ->check(IsCount)
+      ->check(WholeNumber())
       ->needs(compare);
 }
 
@@ -93,7 +71,7 @@ void AddOptions(CLI::App& command, StatsOptions& options) {
   CLI::Option* by =
       command.add_option("--by", options.period, "Sum up each hour or day (UTC) by itself")
           ->option_text("hour|day")
-          ->check(CLI::IsMember({"hour", "day"}));
+          ->check(OneOf({"hour", "day"}));
   command.add_option("--step", options.choice.steps, "Only that step; may be given again")
       ->option_text("NAME")
       ->allow_extra_args(false);

@@ -40,10 +40,10 @@ What is not understood is told, with exit status 2:
   vmetrics: --min-count: "1.5" is no whole number from 0 to 18446744073709551615; see vmetrics stats --help
   [2]
   $ vmetrics stats --compare -
-  vmetrics: standard input can be one of the logs only: name a file; see vmetrics --help
+  vmetrics: standard input can be read only once: name a file instead of -; see vmetrics stats --help
   [2]
   $ vmetrics stats --compare - - < /dev/null
-  vmetrics: standard input can be one of the logs only: name a file; see vmetrics --help
+  vmetrics: standard input can be read only once: name a file instead of -; see vmetrics stats --help
   [2]
   $ vmetrics stats --compare
   vmetrics: --compare needs a value; see vmetrics stats --help

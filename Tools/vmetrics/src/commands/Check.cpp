@@ -66,7 +66,7 @@ Findings::Options FindingsOptions(const CheckOptions& options) {
 }
 
 int Check(CheckOptions& options) {
-  options.definitions.Register();
+  options.definitions.Register(options.files.Names());
   Findings findings(FindingsOptions(options));
   LogCheck check(options.privacy, findings);
   options.files.Read(check.Hooks());

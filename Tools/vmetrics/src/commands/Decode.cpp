@@ -67,11 +67,12 @@ int Decode::Run() {
   if (isNumeric_ + isString_ + isMessage_ > 1) {
     throw UsageError("decode takes one of --numeric, --string and --message");
   }
-  definitions_.Register();
+  const std::vector<std::string> files = files_.empty() ? std::vector<std::string>{"-"} : files_;
+  definitions_.Register(files);
   kind_ = isString_    ? RecordKind::kString
           : isMessage_ ? RecordKind::kMessage
                        : RecordKind::kNumeric;
-  for (const std::string& file : files_.empty() ? std::vector<std::string>{"-"} : files_) {
+  for (const std::string& file : files) {
     try {
       DecodeFile(file);
     } catch (const InputError& error) {

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "LineCutter.h"
+#include "Operands.h"
 #include "Terminal.h"
 #include "Text.h"
 #include "VMetrics.h"
@@ -73,7 +74,8 @@ void Definitions::AddTo(CLI::App& command) {
       ->allow_extra_args(false);
 }
 
-void Definitions::Register() {
+void Definitions::Register(const std::vector<std::string>& others) {
+  RefuseStandardInputTwice(others);
   const auto complain = [this](const LinePlace& place, std::string_view reason) {
     Complain(fmt::format("{}:{}: {}", Printable(place.file), place.number, reason));
     hasRefused_ = true;
@@ -89,6 +91,13 @@ void Definitions::Register() {
       complain(place, fmt::format("the line has more than {} bytes", LineCutter::kLongestLine));
     });
   }
+}
+
+void Definitions::RefuseStandardInputTwice(std::vector<std::string> others) const {
+  for (const DefinitionFile& file : Files()) {
+    others.push_back(file.name);
+  }
+  vmetrics::RefuseStandardInputTwice(others);
 }
 
 int Definitions::Conclude(int status) const { return hasRefused_ ? kTrouble : status; }

@@ -37,11 +37,15 @@ class Definitions {
   /// Registers what the files define, byte order marks and carriage returns at the ends of lines
   /// aside; to be called once, before the catalogue is used. Complains of each line that is
   /// refused, as "FILE:LINE: reason", and goes on. A file that cannot be read throws InputError:
-  /// nothing that is printed without it would be right.
-  void Register();
+  /// nothing that is printed without it would be right. `others` are the files that the subcommand
+  /// reads besides; throws UsageError where standard input is asked for twice.
+  void Register(const std::vector<std::string>& others = {});
 
   /// `status`, or that of trouble where a definition was refused.
   int Conclude(int status) const;
+
+  /// Throws UsageError where standard input is named twice among them and `others`.
+  void RefuseStandardInputTwice(std::vector<std::string> others = {}) const;
 
   /// In the order in which they are registered.
   std::vector<DefinitionFile> Files() const;

@@ -2,8 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
-
 #include "Operands.h"
 #include "Progress.h"
 #include "Terminal.h"
@@ -16,11 +14,12 @@ void LogFiles::AddTo(CLI::App& command) {
               "Metrics logs, plain or compressed by gzip; - or none is standard input");
 }
 
-bool LogFiles::HasStandardInput() const {
-  return names_.empty() || std::find(names_.begin(), names_.end(), "-") != names_.end();
+std::vector<std::string> LogFiles::Names() const {
+  return names_.empty() ? std::vector<std::string>{"-"} : names_;
 }
 
 void LogFiles::Read(LogReader::Hooks hooks) {
+  RefuseStandardInputTwice(names_);
   Progress progress;
   hooks.progress = [&progress](const Input& input) { progress.Show(input); };
   hooks.unreadable = [this, &progress](const InputError& error) {

@@ -19,11 +19,11 @@ class LogFiles {
   /// Adds the operands to the subcommand.
   void AddTo(CLI::App& command);
 
-  /// Whether standard input is one of them.
-  bool HasStandardInput() const;
+  /// The files to be read; "-" is standard input.
+  std::vector<std::string> Names() const;
 
   /// Reads the files, or standard input where none is named, with progress and complaints. Of the
-  /// hooks the first three are the caller's.
+  /// hooks the first three are the caller's. Throws UsageError where standard input is named twice.
   void Read(LogReader::Hooks hooks);
 
   /// After the result is written: says what was damaged, as "2 lines recovered, ...". Returns

@@ -1,5 +1,9 @@
 #include "Operands.h"
 
+#include <algorithm>
+
+#include "Command.h"
+
 namespace vmetrics {
 
 CLI::Option* AddOperands(CLI::App& command, const std::string& name, const std::string& type,
@@ -15,6 +19,12 @@ CLI::Option* AddOperands(CLI::App& command, const std::string& name, const std::
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
       ->expected(kMany, CLI::detail::expected_max_vector_size)
       ->type_name(type);
+}
+
+void RefuseStandardInputTwice(const std::vector<std::string>& files) {
+  if (std::count(files.begin(), files.end(), "-") > 1) {
+    throw UsageError("standard input can be read only once: name a file instead of -");
+  }
 }
 
 }  // namespace vmetrics

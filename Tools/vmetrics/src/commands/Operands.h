@@ -14,6 +14,11 @@ namespace vmetrics {
 CLI::Option* AddOperands(CLI::App& command, const std::string& name, const std::string& type,
                          std::vector<std::string>& operands, const std::string& description);
 
+/// Throws UsageError where "-", standard input, is named more than once among the files that a
+/// subcommand is to read: whoever comes second would find it at its end, and take that for an empty
+/// file.
+void RefuseStandardInputTwice(const std::vector<std::string>& files);
+
 }  // namespace vmetrics
 
 #endif  // VMETRICS_TOOL_OPERANDS_H_

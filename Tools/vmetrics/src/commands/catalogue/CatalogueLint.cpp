@@ -20,6 +20,7 @@ int Lint(const Definitions& definitions, bool isJson) {
   if (definitions.Files().empty()) {
     throw UsageError("catalogue lint needs a file, --definitions FILE or --event-definitions FILE");
   }
+  definitions.RefuseStandardInputTwice();
   DefinitionLinter linter;
   LintReport report(isJson);
   bool isUnreadable = false;

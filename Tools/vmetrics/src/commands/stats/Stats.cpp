@@ -147,9 +147,6 @@ int ShowSummaries(StatsOptions& options) {
 }
 
 int ShowComparison(StatsOptions& options) {
-  if (*options.oldFile == "-" && options.files.HasStandardInput()) {
-    throw UsageError("standard input can be one of the logs only: name a file");
-  }
   LogFiles oldFiles({*options.oldFile});
   LogStatistics before(options.choice, options.privacy);
   ReadLog(oldFiles, before);
@@ -166,7 +163,11 @@ int ShowComparison(StatsOptions& options) {
 
 int Show(StatsOptions& options) {
   options.choice = ChoiceOf(options);
-  options.definitions.Register();
+  std::vector<std::string> files = options.files.Names();
+  if (options.oldFile) {
+    files.push_back(*options.oldFile);
+  }
+  options.definitions.Register(files);
   return options.definitions.Conclude(options.oldFile ? ShowComparison(options)
                                                       : ShowSummaries(options));
 }

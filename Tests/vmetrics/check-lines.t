@@ -19,7 +19,6 @@ Lines that a crash has left, and others that are no records:
   damaged.log:5: not-json: no JSON object in 11 bytes
   damaged.log:6: no-record: a JSON object, but no record of the library
   damaged.log:7: no-record: a JSON object, but no record of the library
-  vmetrics: 3 records recovered from damaged lines, 3 fragments without any left out
   vmetrics: 7 records checked, 6 findings: 2 not-json, 2 glued, 2 no-record
   [1]
 
@@ -43,12 +42,10 @@ Rubbish, of which nothing gets to the terminal:
   $ vmetrics check rubbish.log
   rubbish.log:1: not-json: no JSON object in 10 bytes
   rubbish.log:2: not-json: no JSON object in 1 byte
-  vmetrics: 0 records recovered from damaged lines, 2 fragments without any left out
   vmetrics: 0 records checked, 2 findings: 2 not-json
   [1]
   $ head -c 100000 /dev/zero | vmetrics check
   standard input:1: not-json: no JSON object in 100000 bytes
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
   vmetrics: 0 records checked, 1 finding: 1 not-json
   [1]
 
@@ -57,8 +54,6 @@ A line longer than any record:
   $ (echo "$metric"; head -c 5000000 /dev/zero | tr '\0' x; echo; echo fragment) | vmetrics check
   standard input:2: too-long: more than 4194304 bytes
   standard input:3: not-json: no JSON object in 8 bytes
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
-  vmetrics: 1 line of more than 4194304 bytes left out
   vmetrics: 1 record checked, 2 findings: 1 not-json, 1 too-long
   [1]
 

@@ -38,7 +38,6 @@ Findings stand in the order of the files and lines:
   one.log:2: used-time: usedTime is 200, but from start to end it is 300
   two.log:1: used-time: usedTime is 400, but from start to end it is 300
   two.log:2: not-json: no JSON object in 8 bytes
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
   vmetrics: 3 records checked, 5 findings: 1 not-json, 1 duplicate-span, 2 used-time, 1 missing-parent
   [1]
 
@@ -50,7 +49,6 @@ For a machine, one JSON object a finding:
   {"file":"one.log","line":2,"kind":"used-time","message":"usedTime is 200, but from start to end it is 300"}
   {"file":"two.log","line":1,"kind":"used-time","message":"usedTime is 400, but from start to end it is 300"}
   {"file":"two.log","line":2,"kind":"not-json","message":"no JSON object in 8 bytes"}
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
   vmetrics: 3 records checked, 5 findings: 1 not-json, 1 duplicate-span, 2 used-time, 1 missing-parent
   [1]
 
@@ -61,16 +59,13 @@ Kinds that are not wanted are left out:
   one.log:2: used-time: usedTime is 200, but from start to end it is 300
   two.log:1: used-time: usedTime is 400, but from start to end it is 300
   two.log:2: not-json: no JSON object in 8 bytes
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
   vmetrics: 3 records checked, 4 findings: 1 not-json, 1 duplicate-span, 2 used-time
   [1]
   $ vmetrics check --ignore missing-parent,duplicate-span --ignore used-time one.log two.log
   two.log:2: not-json: no JSON object in 8 bytes
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
   vmetrics: 3 records checked, 1 finding: 1 not-json
   [1]
   $ vmetrics check --ignore missing-parent,duplicate-span,used-time,not-json one.log two.log
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
   vmetrics: 3 records checked, no finding
 
 Not all need be shown; they count nevertheless:
@@ -78,11 +73,9 @@ Not all need be shown; they count nevertheless:
   $ vmetrics check --max 2 one.log two.log
   one.log:1: missing-parent: no step here has the parent's span 33333333-3333-3333-3333-333333333333
   one.log:2: duplicate-span: spanId 11111111-1111-1111-1111-111111111111 is that of one.log:1, too
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
   vmetrics: 3 records checked, 5 findings (2 shown): 1 not-json, 1 duplicate-span, 2 used-time, 1 missing-parent
   [1]
   $ vmetrics check --max 0 one.log two.log
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
   vmetrics: 3 records checked, 5 findings (0 shown): 1 not-json, 1 duplicate-span, 2 used-time, 1 missing-parent
   [1]
 
@@ -100,7 +93,6 @@ Standard input is read where no file is named, and for "-"; compressed files are
   standard input:1: missing-parent: no step here has the parent's span 33333333-3333-3333-3333-333333333333
   standard input:2: duplicate-span: spanId 11111111-1111-1111-1111-111111111111 is that of standard input:1, too
   two.log.gz:2: not-json: no JSON object in 8 bytes
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
   vmetrics: 3 records checked, 3 findings: 1 not-json, 1 duplicate-span, 1 missing-parent
   [1]
 
@@ -128,7 +120,6 @@ What cannot be read is trouble, but does not keep the others from being read:
   $ vmetrics check cut.log.gz
   vmetrics: cut.log.gz: the compressed data ends too early
   cut.log.gz:1: not-json: no JSON object in 81 bytes
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
   vmetrics: 0 records checked, 1 finding: 1 not-json
   [2]
 
@@ -186,19 +177,16 @@ Findings that are too many to be sorted are written as they are found, those abo
   $ for i in 1 2 3; do step $(printf %08d $i)-1111-1111-1111-111111111111 $three "a step" 300; done >many.log
   $ yes fragment | head -n 10000 >>many.log
   $ vmetrics check many.log | sed -n '1p;$p'
-  vmetrics: 0 records recovered from damaged lines, 10000 fragments without any left out
   vmetrics: 3 records checked, 10003 findings: 10000 not-json, 3 missing-parent
   many.log:4: not-json: no JSON object in 8 bytes
   many.log:3: missing-parent: no step here has the parent's span 33333333-3333-3333-3333-333333333333
   $ vmetrics check many.log | sed '/not-json/d'
-  vmetrics: 0 records recovered from damaged lines, 10000 fragments without any left out
   vmetrics: 3 records checked, 10003 findings: 10000 not-json, 3 missing-parent
   many.log:1: missing-parent: no step here has the parent's span 33333333-3333-3333-3333-333333333333
   many.log:2: missing-parent: no step here has the parent's span 33333333-3333-3333-3333-333333333333
   many.log:3: missing-parent: no step here has the parent's span 33333333-3333-3333-3333-333333333333
   $ vmetrics check --max 1 many.log
   many.log:4: not-json: no JSON object in 8 bytes
-  vmetrics: 0 records recovered from damaged lines, 10000 fragments without any left out
   vmetrics: 3 records checked, 10003 findings (1 shown): 10000 not-json, 3 missing-parent
   [1]
 

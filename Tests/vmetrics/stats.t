@@ -64,6 +64,8 @@ Only some of them; an ID may be hexadecimal:
   $ vmetrics stats --step Connect --format json log
   {"step":"Connect","count":7,"failures":3,"errorCodes":{"-110":2,"7":1},"unusable":0,"min":10,"median":30,"p95":3100,"p99":3100,"max":3100,"relativeError":0}
   $ vmetrics stats --metric 1 log
+  vmetrics: the logs hold nothing of what is asked for
+  [1]
 
 Several files are summed up together, and so is what comes from standard input:
 

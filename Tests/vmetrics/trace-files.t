@@ -8,13 +8,13 @@ break:
   $ printf %s "$(cat whole.log)" | vmetrics trace | cmp - usual
   $ tr -d '\n' <whole.log >glued.log
   $ vmetrics trace glued.log | cmp - usual
-  vmetrics: 5 records recovered from damaged lines, 0 fragments without any left out
+  vmetrics: 1 damaged line (glued.log:1): 5 records recovered, 0 fragments left out; vmetrics check shows each
   $ (head -c 100 whole.log; cat whole.log; tail -n 1 whole.log | head -c 200) >torn.log
   $ vmetrics trace torn.log | cmp - usual
-  vmetrics: 1 record recovered from damaged lines, 2 fragments without any left out
+  vmetrics: 2 damaged lines (the first: torn.log:1): 1 record recovered, 2 fragments left out; vmetrics check shows each
   $ sed 's/"spanId":"/&\x00/' whole.log | vmetrics trace
   vmetrics: the logs hold no step
-  vmetrics: 0 records recovered from damaged lines, 4 fragments without any left out
+  vmetrics: 4 damaged lines (the first: standard input:1): 0 records recovered, 4 fragments left out; vmetrics check shows each
   [1]
 
 No step in it:
@@ -25,11 +25,11 @@ No step in it:
   [1]
   $ head -c 10000 /dev/zero | vmetrics trace
   vmetrics: the logs hold no step
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
+  vmetrics: 1 damaged line (standard input:1): 0 records recovered, 1 fragment left out; vmetrics check shows each
   [1]
   $ printf '\377\376{"a":\001}\n[]\n{}\nnull\n' | vmetrics trace
   vmetrics: the logs hold no step
-  vmetrics: 0 records recovered from damaged lines, 3 fragments without any left out
+  vmetrics: 3 damaged lines (the first: standard input:1): 0 records recovered, 3 fragments left out; vmetrics check shows each
   [1]
   $ vmetrics trace --format json empty.log
   []
@@ -48,7 +48,7 @@ Files that cannot be read do not keep the others from being shown:
   $ vmetrics trace cut.log.gz >/dev/null
   vmetrics: cut.log.gz: the compressed data ends too early
   vmetrics: the logs hold no step
-  vmetrics: 0 records recovered from damaged lines, 1 fragment without any left out
+  vmetrics: 1 damaged line (cut.log.gz:1): 0 records recovered, 1 fragment left out; vmetrics check shows each
   [2]
 
 Output that cannot be written:

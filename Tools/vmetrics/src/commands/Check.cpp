@@ -72,7 +72,8 @@ int Check(CheckOptions& options) {
   options.files.Read(check.Hooks());
   check.Finish();
   findings.Finish();
-  const int status = options.files.Conclude(findings.Count() > 0 ? kFindings : kSuccess);
+  FinishOutput();  // So that the summary comes last when both go to one place.
+  const int status = options.files.StatusOf(findings.Count() > 0 ? kFindings : kSuccess);
   Complain(fmt::format("{} checked, {}", Counted(check.Records(), "record"), findings.Summary()));
   return options.definitions.Conclude(status);
 }

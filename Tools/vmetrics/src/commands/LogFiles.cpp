@@ -4,7 +4,6 @@
 
 #include "Operands.h"
 #include "Progress.h"
-#include "Terminal.h"
 #include "Text.h"
 
 namespace vmetrics {
@@ -27,24 +26,46 @@ void LogFiles::Read(LogReader::Hooks hooks) {
     Complain(Printable(error.what()));
     isUnreadable_ = true;
   };
+  hooks.damaged = [this, tell = std::move(hooks.damaged)](const LinePlace& place,
+                                                          std::string_view line) {
+    damaged_.Add(place);
+    if (tell) {
+      tell(place, line);
+    }
+  };
+  hooks.overlong = [this, tell = std::move(hooks.overlong)](const LinePlace& place) {
+    overlong_.Add(place);
+    if (tell) {
+      tell(place);
+    }
+  };
   LogReader reader(std::move(hooks));
   reader.Read(names_);
   counts_ = reader.Counts();
-  overlong_ = reader.Overlong();
 }
 
 int LogFiles::Conclude(int status) const {
   FinishOutput();
-  if (counts_.recovered > 0 || counts_.fragments > 0) {
-    Complain(fmt::format("{} recovered from damaged lines, {} without any left out",
-                         Counted(counts_.recovered, "record"),
+  if (damaged_.count > 0) {
+    Complain(fmt::format("{}: {} recovered, {} left out; vmetrics check shows each",
+                         damaged_.Described("damaged line"), Counted(counts_.recovered, "record"),
                          Counted(counts_.fragments, "fragment")));
   }
-  if (overlong_ > 0) {
-    Complain(fmt::format("{} of more than {} bytes left out", Counted(overlong_, "line"),
+  if (overlong_.count > 0) {
+    Complain(fmt::format("{} of more than {} bytes left out", overlong_.Described("line"),
                          LineCutter::kLongestLine));
   }
-  return isUnreadable_ ? kTrouble : status;
+  return StatusOf(status);
+}
+
+void LogFiles::Lines::Add(const LinePlace& place) {
+  if (count++ == 0) {
+    first = fmt::format("{}:{}", Printable(place.file), place.number);
+  }
+}
+
+std::string LogFiles::Lines::Described(std::string_view kind) const {
+  return fmt::format("{} ({}{})", Counted(count, kind), count == 1 ? "" : "the first: ", first);
 }
 
 }  // namespace vmetrics

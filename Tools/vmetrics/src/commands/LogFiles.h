@@ -3,11 +3,14 @@
 #define VMETRICS_TOOL_LOGFILES_H_
 
 #include <CLI/CLI.hpp>
+#include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "LogReader.h"
+#include "Terminal.h"
 
 namespace vmetrics {
 
@@ -26,14 +29,28 @@ class LogFiles {
   /// hooks the first three are the caller's. Throws UsageError where standard input is named twice.
   void Read(LogReader::Hooks hooks);
 
-  /// After the result is written: says what was damaged, as "2 lines recovered, ...". Returns
-  /// `status`, or that of trouble where a file could not be read.
+  /// After the result is written: says how many lines were damaged, and where the first is. Returns
+  /// as StatusOf.
   int Conclude(int status) const;
 
+  /// `status`, or that of trouble where a file could not be read.
+  int StatusOf(int status) const { return isUnreadable_ ? kTrouble : status; }
+
  private:
+  /// Lines of one kind.
+  struct Lines {
+    std::uint64_t count = 0;
+    std::string first;  ///< "old.log:17"
+
+    void Add(const LinePlace& place);
+    /// "1 damaged line (old.log:17)", "2 damaged lines (the first: old.log:17)".
+    std::string Described(std::string_view kind) const;
+  };
+
   std::vector<std::string> names_;
   LineRecovery::Counts counts_;
-  std::uint64_t overlong_ = 0;
+  Lines damaged_;
+  Lines overlong_;
   bool isUnreadable_ = false;
 };
 

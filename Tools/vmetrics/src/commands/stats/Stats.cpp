@@ -101,6 +101,10 @@ SeriesChoice ChoiceOf(const StatsOptions& options) {
   return choice;
 }
 
+bool IsSelective(const SeriesChoice& choice) {
+  return !choice.steps.empty() || !choice.metrics.empty();
+}
+
 void ReadLog(LogFiles& files, LogStatistics& statistics) {
   files.Read({[&statistics](const LinePlace&, const LogEntry& entry) { statistics.Add(entry); },
               nullptr, nullptr, nullptr, nullptr});
@@ -142,8 +146,15 @@ int StatusOf(const Outcome& outcome, const StatsOptions& options) {
 int ShowSummaries(StatsOptions& options) {
   LogStatistics statistics(options.choice, options.privacy);
   ReadLog(options.files, statistics);
-  WriteSummaries(Summarise(statistics, options.privacy), options.choice.period, options.format);
-  return ConcludeStatistics(statistics, options.files.Conclude(kSuccess));
+  const std::vector<Summary> summaries = Summarise(statistics, options.privacy);
+  WriteSummaries(summaries, options.choice.period, options.format);
+  FinishOutput();
+  if (summaries.empty()) {
+    Complain(IsSelective(options.choice) ? "the logs hold nothing of what is asked for"
+                                         : "the logs hold no step and no number of a metric");
+  }
+  const int status = options.files.Conclude(summaries.empty() ? kFindings : kSuccess);
+  return ConcludeStatistics(statistics, status);
 }
 
 int ShowComparison(StatsOptions& options) {

@@ -286,7 +286,8 @@ Wrong usage:
   
   Options:
     -h,--help                   Print this help message and exit
-    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a line; may be repeated
+    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a
+                                line; may be repeated
     --event-definitions FILE    The same for metrics with an event ID
     --format FORMAT             text, json; without this option text
   

@@ -463,16 +463,20 @@ On a narrow terminal the columns leave that the ID tells already; colours are fo
   
   Options:
     -h,--help                   Print this help message and exit
-    --group GROUP               The group: its number in hexadecimal, or part of its title, "display"
+    --group GROUP               The group: its number in hexadecimal, or part of
+                                its title, "display"
     --side SIDE                 Who reports the metric: client or server
     --type TYPE                 The type of the value, as "int" or "json"
     --private                   Private metrics
     --public                    Metrics that are not private
     --name TEXT                 Part of the name; capitals do not matter
-    --id ID                     The ID: in decimal, in hexadecimal with 0x in front, an event ID
-    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a line; may be repeated
+    --id ID                     The ID: in decimal, in hexadecimal with 0x in
+                                front, an event ID
+    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a
+                                line; may be repeated
     --event-definitions FILE    The same for metrics with an event ID
-    --format FORMAT             table, json, csv, markdown; without this option table
+    --format FORMAT             table, json, csv, markdown; without this option
+                                table
   
   Subcommands:
     lint                        Tells which definitions are refused or surprise

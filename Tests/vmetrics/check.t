@@ -212,20 +212,26 @@ On a terminal the kinds stand out, of whatever width it is, but not under NO_COL
 How it is used:
 
   $ vmetrics check --help
-  Compare metrics logs with the catalogue and the rules of the library's records. Each finding is a line FILE:LINE: kind: message. The exit status is 1 if there is any.
+  Compares metrics logs with the catalogue and the rules of the library's records.
+  Each finding is a line FILE:LINE: kind: message. The exit status is 1 if there
+  is any.
   Usage: vmetrics check [OPTIONS] [file...]
   
   Positionals:
-    file FILE ...               Metrics logs, plain or compressed by gzip; - or none is standard input
+    file FILE ...               Metrics logs, plain or compressed by gzip; - or
+                                none is standard input
   
   Options:
     -h,--help                   Print this help message and exit
-    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a line; may be repeated
+    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a
+                                line; may be repeated
     --event-definitions FILE    The same for metrics with an event ID
-    --ignore KIND               Leave findings of the kind out; several are separated by commas
+    --ignore KIND               Leave findings of the kind out; several are
+                                separated by commas
     --max N                     Write at most N findings, but count all
     --format FORMAT             text, json; without this option text
-    --show-private              Show the values of private metrics and user names, which are masked otherwise
+    --show-private              Show the values of private metrics and user names,
+                                masked otherwise
   
   Kinds of findings:
     not-json        a line without any JSON object

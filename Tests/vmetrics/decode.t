@@ -190,16 +190,23 @@ Help:
   Usage: vmetrics decode [OPTIONS] [file...]
   
   Positionals:
-    file FILE ...               Packed records one after the other, plain or compressed by gzip; - or none is standard input
+    file FILE ...               Packed records one after the other, plain or
+                                compressed by gzip; - or none is standard input
   
   Options:
     -h,--help                   Print this help message and exit
-    --numeric                   The records have numeric IDs (VMetricsData); the default
+    --numeric                   The records have numeric IDs (VMetricsData); the
+                                default
     --string                    The records have event IDs (VMetricsDataString)
-    --message                   The records are IPC messages (VMessage) that carry one with a numeric ID each
-    --hex                       The input is hexadecimal digits, with white space anywhere and comments from # to the end of a line
-    --explain                   Show each field with its offset, bytes and meaning, then the line, then why there is none or what it lacks
-    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a line; may be repeated
+    --message                   The records are IPC messages (VMessage) that carry
+                                one with a numeric ID each
+    --hex                       The input is hexadecimal digits, with white space
+                                anywhere and comments from # to the end of a line
+    --explain                   Show each field with its offset, bytes and
+                                meaning, then the line, then why there is none or
+                                what it lacks
+    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a
+                                line; may be repeated
     --event-definitions FILE    The same for metrics with an event ID
   
   Example:

@@ -297,13 +297,18 @@ Help:
   Usage: vmetrics encode [OPTIONS] id [value...]
   
   Positionals:
-    id ID REQUIRED              The metric: a number in decimal or, behind 0x, in hexadecimal; or an event ID
-    value VALUE ...             Its value, as the metric's type asks; each makes a record. Behind -- it may begin with a dash
+    id ID REQUIRED              The metric: a number in decimal or, behind 0x, in
+                                hexadecimal; or an event ID
+    value VALUE ...             Its value, as the metric's type asks; each makes a
+                                record. Behind -- it may begin with a dash
   
   Options:
     -h,--help                   Print this help message and exit
-    --raw HEX                   The value as bytes in hexadecimal, whatever the metric's type and whether the catalogue has it or not; may be given again
-    --hex                       Write hexadecimal digits with comments, as decode --hex reads them
+    --raw HEX                   The value as bytes in hexadecimal, whatever the
+                                metric's type and whether the catalogue has it or
+                                not; may be given again
+    --hex                       Write hexadecimal digits with comments, as decode
+                                --hex reads them
     --string                    ID is an event ID even if it looks like a number
     --message                   Put the record into an IPC message (VMessage)
     --terminal N                The number of the terminal
@@ -315,7 +320,8 @@ Help:
     --source-module N           The module that sends the message
     --destination-module N      The module that the message is meant for
     --message-type N            The kind of message
-    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a line; may be repeated
+    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a
+                                line; may be repeated
     --event-definitions FILE    The same for metrics with an event ID
   
   Example:

@@ -209,7 +209,9 @@ Wrong usage is a failure of vmetrics itself, and the command is not run:
 Help:
 
   $ vmetrics run --help
-  Runs a command as a step of a transaction: times it and writes a step record with its exit status as error code, to standard error unless a file is named. Neither the command's name nor its arguments are recorded.
+  Runs a command as a step of a transaction: times it and writes a step record
+  with its exit status as error code, to standard error unless a file is named.
+  Neither the command's name nor its arguments are recorded.
   Usage: vmetrics run [OPTIONS] [command...]
   
   Positionals:
@@ -218,14 +220,18 @@ Help:
   Options:
     -h,--help                   Print this help message and exit
     --step NAME REQUIRED        Name of the step
-    --transaction ID            Transaction that the step belongs to; a new one if left out
+    --transaction ID            Transaction that the step belongs to; a new one if
+                                left out
     --event ID=vmetrics_run     Event ID of the record
     --parent ID Excludes: --parent-from-file
                                 Identifier of the parent span
     --parent-from-file Excludes: --parent
-                                Take the parent from the span file: the step that ended last before this one ends
-    --metrics FILE              Append the record to this file; - is standard output
-    --span-directory DIR        Where the span file lies, if not in the working directory
+                                Take the parent from the span file: the step that
+                                ended last before this one ends
+    --metrics FILE              Append the record to this file; - is standard
+                                output
+    --span-directory DIR        Where the span file lies, if not in the working
+                                directory
   
   Example:
     vmetrics run --step backup --transaction nightly --metrics metrics.log -- tar cf b.tar data

@@ -55,25 +55,36 @@ What is not understood is told, with exit status 2:
 The help:
 
   $ vmetrics stats --help
-  Sums up metrics logs: for each step its durations, failures and most frequent error codes, for each metric with a numeric ID its values. With --compare, against an older log; the exit status is 1 if a step is worse.
+  Sums up metrics logs: for each step its durations, failures and most frequent
+  error codes, for each metric with a numeric ID its values. With --compare,
+  against an older log; the exit status is 1 if a step is worse.
   Usage: vmetrics stats [OPTIONS] [file...]
   
   Positionals:
-    file FILE ...               Metrics logs, plain or compressed by gzip; - or none is standard input
+    file FILE ...               Metrics logs, plain or compressed by gzip; - or
+                                none is standard input
   
   Options:
     -h,--help                   Print this help message and exit
     --by hour|day               Sum up each hour or day (UTC) by itself
     --step NAME                 Only that step; may be given again
-    --metric ID                 Only that metric, its ID decimal or hexadecimal; may be given again
+    --metric ID                 Only that metric, its ID decimal or hexadecimal;
+                                may be given again
     --format FORMAT             table, json, csv; without this option table
-    --compare OLD               Show what has changed since the log OLD, - for standard input
-    --threshold PERCENT         A step is worse if its median grew by more than that, or its failure rate by more than so many percentage points; 10 unless given
-    --min-growth MS             No median counts as grown that grew by less; 5 unless given
-    --min-count COUNT           No step is judged that has fewer records in one of the logs; 10 unless given
-    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a line; may be repeated
+    --compare OLD               Show what has changed since the log OLD, - for
+                                standard input
+    --threshold PERCENT         A step is worse if its median grew by more than
+                                that, or its failure rate by more than so many
+                                percentage points; 10 unless given
+    --min-growth MS             No median counts as grown that grew by less; 0
+                                unless given
+    --min-count COUNT           No step is judged that has fewer records in one of
+                                the logs; 1 unless given
+    --definitions FILE          Add the metrics of FILE, "ID;type;name;private" a
+                                line; may be repeated
     --event-definitions FILE    The same for metrics with an event ID
-    --show-private              Show the values of private metrics and user names, which are masked otherwise
+    --show-private              Show the values of private metrics and the names
+                                of their members, masked otherwise
   
   Example:
     vmetrics stats client.log agent.log.gz

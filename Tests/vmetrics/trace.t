@@ -166,19 +166,25 @@ For scripts:
 The help:
 
   $ vmetrics trace --help
-  Shows the steps of each transaction as a waterfall: when each began, how long it took, which failed, and which made the others wait.
+  Shows the steps of each transaction as a waterfall: when each began, how long it
+  took, which failed, and which made the others wait.
   Usage: vmetrics trace [OPTIONS] [file...]
   
   Positionals:
-    file FILE ...               Metrics logs, plain or compressed by gzip; - or none is standard input
+    file FILE ...               Metrics logs, plain or compressed by gzip; - or
+                                none is standard input
   
   Options:
     -h,--help                   Print this help message and exit
-    --transaction ID ...        Only the transaction of this ID; may be given several times
+    --transaction ID ...        Only the transaction of this ID; may be given
+                                several times
     --failed                    Only transactions of which a step failed
-    --slower-than MS            Only transactions that took more milliseconds than this
-    --last N                    Only the last so many of them, by the end of their last step
-    --links                     Show the parent span of each step, in whatever transaction it is
+    --slower-than MS            Only transactions that took more milliseconds than
+                                this
+    --last N                    Only the last so many of them, by the end of their
+                                last step
+    --links                     Show the parent span of each step, in whatever
+                                transaction it is
     --format FORMAT             text, json; without this option text
   
   Example: the last transaction of which a step failed, with the parents of its steps

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <exception>
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "Command.h"
+#include "HelpFormatter.h"
 #include "Terminal.h"
 #include "Text.h"
 #include "VPlatformConfig.h"
@@ -58,6 +60,7 @@ int Run(int argumentCount, char** arguments, int troubleStatus) {
   char** const separator =
       IsRun(argumentCount, arguments) ? std::find(arguments, end, std::string_view("--")) : end;
   CLI::App program(kDescription, "vmetrics");
+  program.formatter(std::make_shared<vmetrics::HelpFormatter>());
   program.set_version_flag("--version", "vmetrics " VMETRICS_VERSION);
   program.require_subcommand(1);
   vmetrics::Action action;

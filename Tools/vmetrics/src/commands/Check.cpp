@@ -20,9 +20,8 @@ namespace vmetrics {
 namespace {
 
 constexpr const char* kDescription =
-    "Compare metrics logs with the catalogue and the rules of the library's records. Each finding "
-    "is "
-    "a line FILE:LINE: kind: message. The exit status is 1 if there is any.";
+    "Compares metrics logs with the catalogue and the rules of the library's records. Each finding "
+    "is a line FILE:LINE: kind: message. The exit status is 1 if there is any.";
 
 constexpr const char* kExample =
     "Example:\n"

@@ -224,9 +224,7 @@ For programs:
 A page:
 
   $ vmetrics catalogue --private --side client --format markdown
-  # The built-in metrics
-  
-  Made by `vmetrics catalogue --format markdown`; a test compares this page with what that writes.
+  # Metrics
   
   A numeric ID is made of the group (bits 31 to 24), the side that reports the metric (bits 23 to 16:
   0x0B the client, 0x0A the server) and an index (bits 15 to 0). Records show it as a signed decimal
@@ -265,9 +263,7 @@ A page:
   | 0x2F0B0007 | 789250055 | string | topNmemory | yes |
   | 0x2F0B0008 | 789250056 | string | topNhandle | yes |
   $ vmetrics catalogue --id nox_user_login --format markdown
-  # The built-in metrics
-  
-  Made by `vmetrics catalogue --format markdown`; a test compares this page with what that writes.
+  # Metrics
   
   A numeric ID is made of the group (bits 31 to 24), the side that reports the metric (bits 23 to 16:
   0x0B the client, 0x0A the server) and an index (bits 15 to 0). Records show it as a signed decimal

@@ -31,7 +31,7 @@ int Show(Request& request) {
   } else if (request.format == "csv") {
     WriteCsv(rows);
   } else if (request.format == "markdown") {
-    WriteMarkdown(rows, request.definitions.Files().empty());
+    WriteMarkdown(rows, request.definitions.Files().empty() && !request.filter.IsSet());
   } else {
     WriteTable(rows);
   }

@@ -71,6 +71,10 @@ void CatalogueFilter::AddTo(CLI::App& command) {
       ->option_text("ID");
 }
 
+bool CatalogueFilter::IsSet() const {
+  return group_ || side_ || type_ || name_ || id_ || isPrivate_ || isPublic_;
+}
+
 bool CatalogueFilter::Matches(const CatalogueRow& row) const {
   return (!group_ || IsInGroup(row, *group_)) &&
          (!side_ || (row.id && NameOfSide(SideOf(*row.id)) == *side_)) &&

@@ -15,6 +15,9 @@ class CatalogueFilter {
   /// Adds the options to the subcommand.
   void AddTo(CLI::App& command);
 
+  /// Whether anything is asked for at all.
+  bool IsSet() const;
+
   /// Whether the metric is one that all options given ask for.
   bool Matches(const CatalogueRow& row) const;
 

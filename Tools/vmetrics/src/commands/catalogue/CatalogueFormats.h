@@ -15,8 +15,8 @@ void WriteJson(const CatalogueRows& rows);
 
 void WriteCsv(const CatalogueRows& rows);
 
-/// A page, with a table for each group. `isBuiltIn`: whether the catalogue is as the library has it
-/// by itself.
+/// A page, with a table for each group. `isBuiltIn`: whether the rows are those that the library
+/// has by itself, all of them.
 void WriteMarkdown(const CatalogueRows& rows, bool isBuiltIn);
 
 }  // namespace vmetrics

@@ -29,8 +29,7 @@ constexpr const char* kPage = R"(# The built-in metrics
 Made by `vmetrics catalogue --format markdown`; a test compares this page with what that writes.
 )";
 
-constexpr const char* kPageWithDefinitions = R"(# The metrics
-)";
+constexpr const char* kOtherPage = "# Metrics\n";
 
 /// A text within a table, its characters that mean something there taken by their letters.
 std::string Cell(std::string_view text) {
@@ -83,7 +82,7 @@ void WriteEvents(const CatalogueRows& rows) {
 void WriteMarkdown(const CatalogueRows& rows, bool isBuiltIn) {
   const auto isNumeric = [](const CatalogueRow& row) { return row.id.has_value(); };
   const auto numeric = static_cast<std::size_t>(std::count_if(rows.begin(), rows.end(), isNumeric));
-  Write(isBuiltIn ? kPage : kPageWithDefinitions);
+  Write(isBuiltIn ? kPage : kOtherPage);
   Write(kIntroduction);
   if (numeric > 0) {
     Write(fmt::format("\n## Numeric IDs: {}\n", Counted(numeric)));

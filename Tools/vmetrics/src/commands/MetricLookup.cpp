@@ -26,4 +26,9 @@ const MetricEntry* FindEventMetric(std::string_view eventId) {
   return found == metrics.end() ? nullptr : &found->second;
 }
 
+bool IsPrivate(const MetricEntry& metric) {
+  constexpr std::size_t kFlag = 2;
+  return metric.at(kFlag) == "1";
+}
+
 }  // namespace vmetrics

@@ -16,6 +16,9 @@ std::optional<int> NumericId(std::string_view id);
 const MetricEntry* FindNumericMetric(int id);
 const MetricEntry* FindEventMetric(std::string_view eventId);
 
+/// Whether the entry has the flag of private metrics.
+bool IsPrivate(const MetricEntry& metric);
+
 }  // namespace vmetrics
 
 #endif  // VMETRICS_TOOL_METRICLOOKUP_H_

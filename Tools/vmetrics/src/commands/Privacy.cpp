@@ -8,10 +8,7 @@ namespace vmetrics {
 
 namespace {
 
-bool IsPrivate(const MetricEntry* metric) {
-  constexpr std::size_t kFlag = 2;
-  return metric != nullptr && metric->at(kFlag) == "1";
-}
+bool IsOfPrivate(const MetricEntry* metric) { return metric != nullptr && IsPrivate(*metric); }
 
 }  // namespace
 
@@ -26,7 +23,7 @@ bool Privacy::IsMasked(std::string_view eventId) const {
   }
   // A number is an event ID, too, if it is registered as one.
   const std::optional<int> id = NumericId(eventId);
-  return (id && IsPrivate(FindNumericMetric(*id))) || IsPrivate(FindEventMetric(eventId));
+  return (id && IsOfPrivate(FindNumericMetric(*id))) || IsOfPrivate(FindEventMetric(eventId));
 }
 
 }  // namespace vmetrics

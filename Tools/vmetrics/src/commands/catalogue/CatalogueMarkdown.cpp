@@ -43,10 +43,6 @@ std::string Cell(std::string_view text) {
   return cell;
 }
 
-std::string Counted(std::size_t count) {
-  return fmt::format("{} metric{}", count, count == 1 ? "" : "s");
-}
-
 /// The columns that all tables have.
 std::string EntryCells(const CatalogueRow& row) {
   return fmt::format("{} | {} | {} |", Cell(row.Type()), Cell(row.Name()), Cell(PrivateMark(row)));
@@ -85,11 +81,11 @@ void WriteMarkdown(const CatalogueRows& rows, bool isBuiltIn) {
   Write(isBuiltIn ? kPage : kOtherPage);
   Write(kIntroduction);
   if (numeric > 0) {
-    Write(fmt::format("\n## Numeric IDs: {}\n", Counted(numeric)));
+    Write(fmt::format("\n## Numeric IDs: {}\n", Counted(numeric, "metric")));
     WriteNumeric(rows);
   }
   if (numeric < rows.size()) {
-    Write(fmt::format("\n## Event IDs: {}\n", Counted(rows.size() - numeric)));
+    Write(fmt::format("\n## Event IDs: {}\n", Counted(rows.size() - numeric, "metric")));
     WriteEvents(rows);
   }
 }

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "MetricLookup.h"
 #include "VMetrics.h"
 
 namespace vmetrics {
@@ -19,7 +20,7 @@ struct CatalogueRow {
   const std::string& Type() const { return entry->at(0); }
   const std::string& Name() const { return entry->at(1); }
   const std::string& PrivateFlag() const { return entry->at(2); }
-  bool IsPrivate() const { return PrivateFlag() == "1"; }
+  bool IsPrivate() const { return vmetrics::IsPrivate(*entry); }
 };
 
 using CatalogueRows = std::vector<CatalogueRow>;

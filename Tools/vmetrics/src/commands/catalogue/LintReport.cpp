@@ -67,8 +67,8 @@ int LintReport::Finish() {
   if (isJson_) {
     array_.Finish();
   } else if (hasFindings) {
-    Write(fmt::format("{} definition{}: {} refused, {} with surprises\n", definitions_,
-                      definitions_ == 1 ? "" : "s", refused_, surprising_));
+    Write(fmt::format("{}: {} refused, {} with surprises\n", Counted(definitions_, "definition"),
+                      refused_, surprising_));
   }
   return hasFindings ? kFindings : kSuccess;
 }

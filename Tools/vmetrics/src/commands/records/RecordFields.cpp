@@ -8,6 +8,7 @@
 #include <cstdint>
 
 #include "MetricId.h"
+#include "MetricLookup.h"
 #include "RecordMetric.h"
 #include "Text.h"
 #include "ValueFields.h"
@@ -67,10 +68,9 @@ void DescribeMetric(RecordKind kind, std::string_view record, RecordField& field
     field.surprises.emplace_back("not in the catalogue");
     return;
   }
-  const bool isPrivate = metric->size() > 2 && (*metric)[2] == "1";
   field.meaning.push_back(fmt::format("{}: {}, {}", Printable((*metric)[1]),
                                       Printable((*metric)[0]),
-                                      isPrivate ? "private" : "not private"));
+                                      IsPrivate(*metric) ? "private" : "not private"));
 }
 
 std::string Titled(unsigned int byte, std::string_view title) {

@@ -6,7 +6,6 @@ namespace vmetrics {
 
 void ErrorCodes::Add(std::optional<std::int64_t> code) {
   constexpr std::size_t kMostCodes = 1000;
-  ++total_;
   if (!code) {
     return;
   }

@@ -45,11 +45,8 @@ class ErrorCodes {
   /// Up to `most` codes, the most frequent first, of equally frequent ones the least.
   std::vector<Counted> MostFrequent(std::size_t most) const;
 
-  std::uint64_t Total() const { return total_; }
-
  private:
   std::unordered_map<std::int64_t, std::uint64_t> counts_;
-  std::uint64_t total_ = 0;
 };
 
 struct Series {

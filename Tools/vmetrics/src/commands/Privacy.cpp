@@ -12,9 +12,8 @@ bool IsOfPrivate(const MetricEntry* metric) { return metric != nullptr && IsPriv
 
 }  // namespace
 
-void Privacy::AddTo(CLI::App& command) {
-  command.add_flag("--show-private", showsPrivate_,
-                   "Show the values of private metrics and user names, which are masked otherwise");
+void Privacy::AddTo(CLI::App& command, const std::string& what) {
+  command.add_flag("--show-private", showsPrivate_, "Show " + what + ", masked otherwise");
 }
 
 bool Privacy::IsMasked(std::string_view eventId) const {

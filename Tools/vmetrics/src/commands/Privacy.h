@@ -3,6 +3,7 @@
 #define VMETRICS_TOOL_PRIVACY_H_
 
 #include <CLI/CLI.hpp>
+#include <string>
 #include <string_view>
 
 namespace vmetrics {
@@ -12,8 +13,9 @@ constexpr std::string_view kMask = "***";
 
 class Privacy {
  public:
-  /// Adds the option --show-private to the subcommand.
-  void AddTo(CLI::App& command);
+  /// Adds the option --show-private to the subcommand; `what` it shows, for its help.
+  void AddTo(CLI::App& command,
+             const std::string& what = "the values of private metrics and user names");
 
   /// Whether the values of a metric are to be masked: it is private in the catalogue. `eventId` is
   /// a numeric ID in decimal or an event ID; an ID that is not in the catalogue is not private.

@@ -83,7 +83,7 @@ void AddOptions(CLI::App& command, StatsOptions& options) {
   AddFormat(command, options.format, {"table", "json", "csv"});
   AddComparisonOptions(command, options, by);
   options.definitions.AddTo(command);
-  options.privacy.AddTo(command);
+  options.privacy.AddTo(command, "the values of private metrics and the names of their members");
 }
 
 SeriesChoice ChoiceOf(const StatsOptions& options) {

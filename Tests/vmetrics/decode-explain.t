@@ -387,3 +387,19 @@ A line on a terminal has nothing in it that the terminal would obey, whatever th
   1
   $ script -qec 'vmetrics decode control.bin' /dev/null | sed 's/.*"args"://; s/\r$//'
   {"displayResolution":"\u009b31m"}}
+
+The types of events that have a meaning of their own, and others:
+
+  $ for type in 0 1 2 3; do
+  >   vmetrics encode nox_user_connect '{}' --type $type | vmetrics decode --string --explain | sed -n 3p
+  > done
+         4  00 00 00 00              type           0, of the framework's modules
+         4  01 00 00 00              type           1
+         4  02 00 00 00              type           2, of a client's connecting
+         4  03 00 00 00              type           3, of the transport
+
+A byte that is no letter where JSON goes wrong:
+
+  $ vmetrics encode nox_user_connect --raw 7b017d | vmetrics decode --string 2>&1 >/dev/null
+  vmetrics: standard input: record 1 at byte 0 has no args, as the value of vmConnect is not JSON: a member's name in quotes is missing at byte 1 of it, 0x01
+  [1]

@@ -83,3 +83,14 @@ Wrong usage:
   $ vmetrics trace --unknown whole.log
   vmetrics: not understood: --unknown; see vmetrics trace --help
   [2]
+
+Transactions that are there, but none that is asked for:
+
+  $ vmetrics trace --slower-than 999999 whole.log
+  vmetrics: no transaction matches all that is asked for
+  [1]
+  $ id=$(sed -n 's/.*"transactionId":"\([^"]*\)".*/\1/p' whole.log | head -n 1)
+  $ vmetrics trace --transaction "$id" --slower-than 999999 --format json whole.log
+  []
+  vmetrics: no transaction matches all that is asked for
+  [1]

@@ -97,6 +97,7 @@ Those that failed, those that took long, the last ones, and those that are all o
 Where there is none, the exit status tells:
 
   $ vmetrics trace --slower-than 60000 client.log agent.log
+  vmetrics: no transaction matches all that is asked for
   [1]
   $ vmetrics trace --transaction session-43 client.log agent.log
   vmetrics: the logs hold no step of transaction session-43
@@ -161,6 +162,7 @@ For scripts:
   ]
   $ vmetrics trace --format json --last 1 --slower-than 60000 client.log agent.log
   []
+  vmetrics: no transaction matches all that is asked for
   [1]
 
 The help:

@@ -44,7 +44,7 @@ class Trace {
   std::vector<const Transaction*> Choose() const;
   bool IsIncluded(const Transaction& transaction) const;
   void WriteAll(const std::vector<const Transaction*>& chosen);
-  void ComplainOfMissing() const;
+  bool ComplainOfMissing() const;
 
   LogFiles files_;
   Selection selection_;
@@ -86,7 +86,9 @@ int Trace::Run() {
     Complain(fmt::format("{} left out, as the logs hold the same once more",
                          copies_ == 1 ? "1 record" : fmt::format("{} records", copies_)));
   }
-  ComplainOfMissing();
+  if (!ComplainOfMissing() && chosen.empty()) {
+    Complain("no transaction matches all that is asked for");
+  }
   return files_.Conclude(chosen.empty() ? kFindings : kSuccess);
 }
 
@@ -166,9 +168,11 @@ void Trace::WriteAll(const std::vector<const Transaction*>& chosen) {
   }
 }
 
-void Trace::ComplainOfMissing() const {
+/// Returns whether there was anything to say.
+bool Trace::ComplainOfMissing() const {
   const StepStore& store = collection_->Store();
-  if (store.StepCount() == 0 && selection_.transactions.empty()) {
+  bool isMissing = store.StepCount() == 0 && selection_.transactions.empty();
+  if (isMissing) {
     Complain("the logs hold no step");
   }
   for (const std::string& wanted : selection_.transactions) {
@@ -177,9 +181,11 @@ void Trace::ComplainOfMissing() const {
                                        return store.TextOf(transaction.identifier) == wanted;
                                      });
     if (!isThere) {
+      isMissing = true;
       Complain(fmt::format("the logs hold no step of transaction {}", Printable(wanted)));
     }
   }
+  return isMissing;
 }
 
 }  // namespace

@@ -70,7 +70,7 @@ All that the tool has, and nothing else:
   $ options_with_value_of() {
   >   vmetrics $1 --help | grep -vE '^  --[a-z-]+ Excludes' | grep -oE '^  --[a-z-]+ [A-Za-z]' | grep -oE -- '--[a-z-]+'
   > }
-  $ choices_of() { vmetrics $1 $2 '?' 2>&1 </dev/null | sed -n 's/.* not in {\(.*\)}; .*/\1/p' | tr ',' ' '; }
+  $ choices_of() { vmetrics $1 $2 '?' 2>&1 </dev/null | sed -n 's/.* is none of \(.*\); see .*/\1/p' | tr -d ,; }
   $ subcommands=$(vmetrics --help | sed '1,/^Subcommands:/d' | grep -oE '^  [a-z]+')
   $ echo $subcommands
   catalogue decode encode run trace stats check
@@ -92,6 +92,14 @@ All that the tool has, and nothing else:
   >   done
   > done
   catalogue --type: string int uint64_t int64_t double bool enum json, not 
+  check --ignore: not-json glued too-long no-record member extra-member duplicate-key unknown-id args no-args span-form duplicate-span time used-time is-success parent-step unlocked-parent missing-parent, not 
+
+The kinds of findings are those of the help, as a message with all of them would be too long:
+
+  $ vmetrics check --help | sed -n '/^Kinds/,/^$/s/^  \([a-z-]*\) .*/\1/p' >kinds
+  $ wc -l <kinds
+  18
+  $ complete_words check --ignore '' | sed 's/ *[-+]o .*//' | tr ' ' '\n' | diff kinds -
 
 Any type may be asked for; those that are completed are the ones that render:
 

@@ -33,7 +33,7 @@ std::string NameOf(const CLI::App& program) {
 
 /// The words of the parser as the tool's own.
 std::string TextOf(const CLI::ParseError& error) {
-  const std::string text = error.what();
+  std::string text = error.what();
   const std::size_t colon = text.find(": ");
   if (error.get_name() == "ArgumentMismatch" && colon != text.npos) {
     const bool isMissing = text.find(" missing", colon) != text.npos;

@@ -58,9 +58,9 @@ if(VMETRICS_BUILD_TOOLS)
   install(FILES ${pages} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
   install(FILES Tools/vmetrics/completion/vmetrics
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tool)
-  # What log viewers show metrics logs by.
-  file(GLOB formats Tools/viewers/*.json)
-  install(FILES ${formats} DESTINATION ${CMAKE_INSTALL_DATADIR}/vmetrics/lnav COMPONENT tool)
+  # For log viewers and forwarders, and the logs of a page that teaches how to read them.
+  install(DIRECTORY Tools/viewers/lnav Tools/forwarding examples/customer
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/vmetrics COMPONENT tool)
 endif()
 
 file(GLOB documents docs/*.md)

@@ -157,3 +157,15 @@ Times and identifiers in metrics lines may differ on demand, and nothing else:
   [1]
   $ "$TESTDIR/run" times.md | tail -n 1
   2 commands and files, 2 not as times.md shows them
+
+What it names may be elsewhere:
+
+  $ mkdir -p share; echo here >share/file
+  $ cat >places.md <<'END'
+  > ```console
+  > $ cat /usr/share/product/file
+  > here
+  > ```
+  > END
+  $ "$TESTDIR/run" --place /usr/share/product "$PWD/share" places.md
+  1 commands and files, 0 not as places.md shows them

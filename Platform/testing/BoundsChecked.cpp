@@ -22,13 +22,13 @@ extern "C" char* RealStrtokS(char* string, const char* delimiters, char** contex
 
 int memcpy_s(void* destination, std::size_t destinationSize, const void* source,
              std::size_t count) {
-  return FakePlatform::IsNext(FakePlatform::TheState().copiesUntilFailure)
+  return FakePlatform::IsNext(FakePlatform::LockedState()->copiesUntilFailure)
              ? EINVAL
              : RealMemcpyS(destination, destinationSize, source, count);
 }
 
 int memset_s(void* destination, std::size_t destinationSize, int value, std::size_t count) {
-  return FakePlatform::IsNext(FakePlatform::TheState().clearsUntilFailure)
+  return FakePlatform::IsNext(FakePlatform::LockedState()->clearsUntilFailure)
              ? EINVAL
              : RealMemsetS(destination, destinationSize, value, count);
 }

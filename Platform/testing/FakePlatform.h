@@ -1,8 +1,9 @@
 /// The platform as a test wants it: what is logged is kept, the clock reads what the test scripted,
 /// files are in memory, and anything can be made to fail.
 ///
-/// All state belongs to the process; Reset, at the beginning of each test, makes it new. For one
-/// thread at a time.
+/// All state belongs to the process; Reset, at the beginning of each test, makes it new. Any thread
+/// may use the platform; what the functions here return by reference is for a test that waits for
+/// its threads before it looks.
 #ifndef FAKEPLATFORM_H_
 #define FAKEPLATFORM_H_
 

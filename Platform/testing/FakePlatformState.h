@@ -4,6 +4,7 @@
 
 #include <climits>
 #include <map>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -29,8 +30,18 @@ struct State {
   int clearsUntilFailure = 0;
 };
 
-/// Never destroyed: the last log line of a process comes while it exits.
-State& TheState();
+/// The state, for the thread alone that has made the object and as long as that lives.
+class LockedState {
+ public:
+  LockedState();
+
+  State* operator->() const { return &state_; }
+  State& operator*() const { return state_; }
+
+ private:
+  State& state_;
+  std::lock_guard<std::mutex> lock_;
+};
 
 /// Counts down to a failure; true when it has come.
 bool IsNext(int& untilFailure);

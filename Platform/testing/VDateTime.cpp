@@ -5,7 +5,7 @@
 #include "FakePlatformState.h"
 
 unsigned long VDateTime::GetCurrentTick() {
-  FakePlatform::State& state = FakePlatform::TheState();
-  const auto next = static_cast<std::size_t>(state.ticksRead++);
-  return state.ticks[std::min(next, state.ticks.size() - 1)];
+  const FakePlatform::LockedState state;
+  const auto next = static_cast<std::size_t>(state->ticksRead++);
+  return state->ticks[std::min(next, state->ticks.size() - 1)];
 }

@@ -29,7 +29,7 @@ void VLogger::Log(const char* file, int line, const char* function, const char* 
                   const char* text2, int level, const char* format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
-  FakePlatform::TheState().logLines.push_back(
+  FakePlatform::LockedState()->logLines.push_back(
       {file, line, function, text1, text2, level, format, Formatted(format, arguments)});
   va_end(arguments);
 }
@@ -37,6 +37,6 @@ void VLogger::Log(const char* file, int line, const char* function, const char* 
 void VLogger::Metrics(const char* format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
-  FakePlatform::TheState().metricsLines.push_back({format, Formatted(format, arguments)});
+  FakePlatform::LockedState()->metricsLines.push_back({format, Formatted(format, arguments)});
   va_end(arguments);
 }

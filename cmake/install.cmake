@@ -17,6 +17,13 @@ if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
 endif()
 install(TARGETS VMetrics VPlatform VPlatformContract EXPORT VMetricsTargets
   LIBRARY COMPONENT libraries NAMELINK_COMPONENT development)
+if(TARGET VMetricsTestKit)
+  set_target_properties(VMetricsTestKit PROPERTIES EXPORT_NAME TestKit)
+  target_include_directories(VMetricsTestKit INTERFACE $<INSTALL_INTERFACE:${headers_directory}>)
+  install(TARGETS VMetricsTestKit EXPORT VMetricsTargets ARCHIVE COMPONENT development)
+  install(FILES TestKit/include/VMetricsTestKit.h
+    DESTINATION ${headers_directory} COMPONENT development)
+endif()
 install(FILES
   Framework/VMetrics/include/VMetrics.h
   Platform/include/BoundsChecked.h
@@ -47,9 +54,15 @@ foreach(directory INCLUDE LIB)
     set(pkgconfig_${directory}DIR "\${prefix}/${CMAKE_INSTALL_${directory}DIR}")
   endif()
 endforeach()
-configure_file(cmake/vmetrics.pc.in vmetrics.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/vmetrics.pc
-  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+set(pkgconfig_modules vmetrics)
+if(TARGET VMetricsTestKit)
+  list(APPEND pkgconfig_modules vmetrics-testkit)
+endif()
+foreach(module ${pkgconfig_modules})
+  configure_file(cmake/${module}.pc.in ${module}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${module}.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+endforeach()
 
 if(VMETRICS_BUILD_TOOLS)
   set_target_properties(vmetrics PROPERTIES INSTALL_RPATH "${tool_library_path}")

@@ -23,10 +23,9 @@ const std::string kHardText = "\"\\\b\f\n\r\t\x01\x1F\x7F/%s%n\xC3\xA4\xF0\x9F\x
 class MetricsJsonTest : public testing::Test {
  protected:
   MetricsJsonTest() {
-    const ProbeResult result =
-        RunProbe(directory_, {"metrics", directory_ / "metrics", "everything"});
+    const ProbeResult result = RunProbe(directory_, {"everything"});
     EXPECT_TRUE(Succeeded(result));
-    lines_ = ParseJsonLines(FileContent::Read(directory_ / "metrics"));
+    lines_ = ParseJsonLines(result.Metrics());
     rendered_ = result.Values("rendered");
     lines_.resize(8);  // Only after a failure of the parsing are there fewer.
   }

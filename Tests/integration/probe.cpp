@@ -22,7 +22,12 @@
 #include "ProbeThreads.h"
 #include "VLogger.h"
 #include "VMetrics.h"
+
+// The embedded platform's own; another one does without the commands that need it.
+#if __has_include("VPlatformConfig.h")
 #include "VPlatformConfig.h"
+#define PROBE_HAS_CONFIGURATION
+#endif
 
 namespace {
 
@@ -123,9 +128,11 @@ struct Command {
 
 const std::map<std::string, Command>& Commands() {
   static const std::map<std::string, Command>& commands = *new std::map<std::string, Command>{
+#ifdef PROBE_HAS_CONFIGURATION
       {"metrics", {1, [](char** a) { Expect(VPlatformConfig::SetMetricsFile(a[0]), a[0]); }}},
       {"diagnostics", {1, [](char** a) { VPlatformConfig::SetDiagnosticsLevel(atoi(a[0])); }}},
       {"locks", {1, [](char** a) { Expect(VPlatformConfig::SetLockFileDirectory(a[0]), a[0]); }}},
+#endif
       {"gate", {0, [](char**) { WaitAtGate(); }}},
       {"insert", {6, Insert}},
       {"parent", {0, [](char**) { Say("parent", VMetrics::GetCurrentParentSpanId()); }}},

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "JsonBlanks.h"
+
 namespace vmetrics {
 
 using simdjson::ondemand::array;
@@ -31,7 +33,7 @@ bool Take(std::string_view& text, std::string_view anyOf) {
 }  // namespace
 
 bool IsNumber(std::string_view token) {
-  token = token.substr(0, token.find_last_not_of(" \t\r\n") + 1);
+  token = WithoutTrailingBlanks(token);
   Take(token, "-");
   if (!Take(token, "0") && !TakeDigits(token)) {
     return false;

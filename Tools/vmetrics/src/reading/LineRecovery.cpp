@@ -2,15 +2,13 @@
 
 #include <algorithm>
 
+#include "JsonBlanks.h"
+
 namespace vmetrics {
 
 namespace {
 
 constexpr std::size_t kNowhere = std::string_view::npos;
-
-std::string_view WithoutTrailingBlanks(std::string_view text) {
-  return text.substr(0, text.find_last_not_of(" \t\r\n") + 1);
-}
 
 bool StartsWith(std::string_view text, std::string_view start) {
   return text.substr(0, start.size()) == start;

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <string>
 
+#include "JsonBlanks.h"
 #include "JsonValidity.h"
 
 namespace vmetrics {
@@ -23,10 +24,6 @@ std::optional<Number> NumberIn(const Member& member) {
     return std::nullopt;
   }
   return number;
-}
-
-std::string_view WithoutTrailingBlanks(std::string_view text) {
-  return text.substr(0, text.find_last_not_of(" \t\r\n") + 1);
 }
 
 JsonKind KindOf(ondemand::json_type type) {

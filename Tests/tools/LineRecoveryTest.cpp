@@ -74,6 +74,65 @@ TEST_F(LineRecoveryTest, LineGluedToAFragmentIsRecovered) {
   ExpectTotal({0, kFirst.size() - 1, kFirst.size() - 1});
 }
 
+// Wherever the second line was cut, the first comes out, and nothing else.
+TEST_F(LineRecoveryTest, LineInFrontOfAFragmentIsRecovered) {
+  for (std::size_t cut = 1; cut < kFirst.size(); ++cut) {
+    EXPECT_THAT(Take(kSecond + kFirst.substr(0, cut)), ElementsAre(kSecond)) << line_;
+  }
+  ExpectTotal({0, kFirst.size() - 1, kFirst.size() - 1});
+}
+
+TEST_F(LineRecoveryTest, LineBetweenFragmentsIsRecovered) {
+  for (std::size_t cut = 1; cut < kFirst.size(); ++cut) {
+    EXPECT_THAT(Take(kFirst.substr(0, cut) + kSecond + R"({"eventId":"e","ti)"),
+                ElementsAre(kSecond))
+        << line_;
+  }
+  ExpectTotal({0, kFirst.size() - 1, 2 * (kFirst.size() - 1)});
+}
+
+TEST_F(LineRecoveryTest, LinesOnBothSidesOfAFragmentAreRecovered) {
+  EXPECT_THAT(Take(kFirst + R"({"eventId":)" + kSecond + kFirst.substr(0, 40) + kSecond),
+              ElementsAre(kFirst, kSecond, kSecond));
+  ExpectTotal({0, 3, 2});
+}
+
+TEST_F(LineRecoveryTest, SuffixIsPassedOver) {
+  for (const std::string suffix : {"\033[0m", " (1.2 ms)", "\"", "]", "\\", ",", ":"}) {
+    EXPECT_THAT(Take("INFO " + kFirst + suffix), ElementsAre(kFirst)) << suffix;
+  }
+  ExpectTotal({7, 0, 0});
+}
+
+TEST_F(LineRecoveryTest, SuffixOfAFragmentsLineIsPassedOver) {
+  EXPECT_THAT(Take(kFirst.substr(0, 12) + kSecond + "\033[0m"), ElementsAre(kSecond));
+  ExpectTotal({0, 1, 1});
+}
+
+TEST_F(LineRecoveryTest, PrefixesOfGluedLinesArePassedOver) {
+  EXPECT_THAT(Take("INFO " + kFirst + "INFO " + kSecond), ElementsAre(kFirst, kSecond));
+  ExpectTotal({0, 2, 0});
+}
+
+TEST_F(LineRecoveryTest, LineInFrontOfTheRestOfAnotherIsRecovered) {
+  EXPECT_THAT(Take(kFirst + R"(stamp":1700000000240,"args":{}})"), ElementsAre(kFirst));
+  EXPECT_THAT(Take(kFirst + "}"), ElementsAre(kFirst));
+  ExpectTotal({0, 2, 2});
+}
+
+TEST_F(LineRecoveryTest, PayloadWithinAFragmentIsNotALine) {
+  for (const std::string rest : {R"(,"x":1)", R"(},"args":)", R"( ,)", "}", "]"}) {
+    EXPECT_THAT(Take(R"({"eventId":"b","args":{"o":{"eventId":"c"})" + rest + "x"), IsEmpty());
+  }
+  ExpectTotal({0, 0, 5});
+}
+
+TEST_F(LineRecoveryTest, WhatOnlyBeginsAsALineIsNoText) {
+  EXPECT_THAT(Take(R"({"eventId":x} and so on)"), IsEmpty());
+  EXPECT_THAT(Take(R"({"eventId":[}]} and so on)"), IsEmpty());
+  ExpectTotal({0, 0, 2});
+}
+
 TEST_F(LineRecoveryTest, FragmentBehindAPrefixIsAFragment) {
   EXPECT_THAT(Take(R"(INFO {"eventId":"a)" + kSecond), ElementsAre(kSecond));
   ExpectTotal({0, 1, 1});
@@ -159,6 +218,12 @@ TEST_F(LineRecoveryTest, HostileLinesTakeNoLongerThanOthers) {
     EXPECT_THAT(Take(repeated(part) + "x}"), IsEmpty()) << part;
     EXPECT_THAT(Take(repeated(part) + kSecond), ElementsAre(kSecond)) << part;
   }
+  for (const std::string part : {R"({"eventId":)", R"({"eventId":")", R"({"eventId":1)"}) {
+    EXPECT_THAT(Take(repeated(part)), IsEmpty()) << part;
+    EXPECT_THAT(Take(kSecond + repeated(part)), ElementsAre(kSecond)) << part;
+  }
+  EXPECT_THAT(Take(repeated(R"({"eventId":)") + "1" + std::string(kSize, '}') + "x"), IsEmpty());
+  EXPECT_THAT(Take(repeated(R"({"eventId":{} )")), IsEmpty());
   EXPECT_EQ(Take(repeated("{}")).size(), kSize / 2);
   EXPECT_EQ(Take(repeated("x{}")).size(), 1U);
 }

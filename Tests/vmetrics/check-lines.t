@@ -10,6 +10,8 @@ Lines that a crash has left, and others that are no records:
   > {}
   > {"message":"hello"}
   > 12:00:00 host-1 $metric
+  > $metric{"eventId":"302645249","timest
+  > $metric [main.cpp:17]
   > 
   > END
   $ vmetrics check damaged.log
@@ -19,7 +21,8 @@ Lines that a crash has left, and others that are no records:
   damaged.log:5: not-json: no JSON object in 11 bytes
   damaged.log:6: no-record: a JSON object, but no record of the library
   damaged.log:7: no-record: a JSON object, but no record of the library
-  vmetrics: 7 records checked, 6 findings: 2 not-json, 2 glued, 2 no-record
+  damaged.log:9: glued: a record is glued to a fragment of another
+  vmetrics: 9 records checked, 7 findings: 2 not-json, 3 glued, 2 no-record
   [1]
 
 A line break may have a carriage return in front of it, and may be missing at the end:

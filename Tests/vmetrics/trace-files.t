@@ -1,9 +1,10 @@
-Lines that a crash has left, with a logger's prefix, with carriage returns and without a last line
-break:
+Lines that a crash has left, with a logger's prefix, in colour, with carriage returns and without a
+last line break:
 
   $ cp "$TESTDIR/data/trace/agent.log" whole.log
   $ vmetrics trace whole.log >usual
   $ sed 's/^/Nov 21 16:04:21 host agent[731]: INFO /' whole.log | vmetrics trace | cmp - usual
+  $ sed 's/.*/\x1b[32m&\x1b[0m/' whole.log | vmetrics trace | cmp - usual
   $ sed 's/$/\r/' whole.log | vmetrics trace | cmp - usual
   $ printf %s "$(cat whole.log)" | vmetrics trace | cmp - usual
   $ tr -d '\n' <whole.log >glued.log
@@ -12,6 +13,10 @@ break:
   $ (head -c 100 whole.log; cat whole.log; tail -n 1 whole.log | head -c 200) >torn.log
   $ vmetrics trace torn.log | cmp - usual
   vmetrics: 2 damaged lines (the first: torn.log:1): 1 record recovered, 2 fragments left out; vmetrics check shows each
+  $ sed 's/$/{"eventId":"e","timest/' whole.log | vmetrics trace | cmp - usual
+  vmetrics: 5 damaged lines (the first: standard input:1): 5 records recovered, 5 fragments left out; vmetrics check shows each
+  $ sed 's/.*/{"eventId":"e","args":{"stepN&{"eventId":"e","ti/' whole.log | vmetrics trace | cmp - usual
+  vmetrics: 5 damaged lines (the first: standard input:1): 5 records recovered, 10 fragments left out; vmetrics check shows each
   $ sed 's/"spanId":"/&\x00/' whole.log | vmetrics trace
   vmetrics: the logs hold no step
   vmetrics: 4 damaged lines (the first: standard input:1): 0 records recovered, 4 fragments left out; vmetrics check shows each

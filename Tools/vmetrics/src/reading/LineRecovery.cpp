@@ -1,6 +1,7 @@
 #include "LineRecovery.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "JsonBlanks.h"
 
@@ -9,10 +10,6 @@ namespace vmetrics {
 namespace {
 
 constexpr std::size_t kNowhere = std::string_view::npos;
-
-bool StartsWith(std::string_view text, std::string_view start) {
-  return text.substr(0, start.size()) == start;
-}
 
 /// Whether the character at `at` has an odd number of backslashes in front of it.
 bool IsEscaped(std::string_view text, std::size_t at) {
@@ -45,14 +42,19 @@ std::size_t StartOfLastObject(std::string_view text) {
   return kNowhere;
 }
 
-/// Whether a JSON text that was cut off here could go on with an object.
-bool AsksForValue(std::string_view fragment) {
-  constexpr std::string_view kBeforeValues = ":,[";
-  return !fragment.empty() && kBeforeValues.find(fragment.back()) != kNowhere;
-}
-
-bool BeginsLikeALine(std::string_view text) {
-  return StartsWith(text, "{\"eventId\":") || StartsWith(text, "{\"timestamp\":");
+/// How many of the parts of `line` around the texts have braces: in front of the first, one that
+/// opens; elsewhere it may be the rest of an object, too.
+std::uint64_t FragmentsAround(const std::vector<std::string_view>& texts, std::string_view line) {
+  std::uint64_t fragments = 0;
+  const char* begin = line.data();
+  for (const std::string_view text : texts) {
+    const std::string_view part(begin, static_cast<std::size_t>(text.data() - begin));
+    const std::string_view braces = begin == line.data() ? "{" : "{}";
+    fragments += part.find_first_of(braces) == kNowhere ? 0 : 1;
+    begin = text.data() + text.size();
+  }
+  const std::string_view end = line.substr(static_cast<std::size_t>(begin - line.data()));
+  return fragments + (end.find_first_of("{}") == kNowhere ? 0 : 1);
 }
 
 }  // namespace
@@ -68,8 +70,9 @@ const std::vector<std::string_view>& LineRecovery::TextsOf(std::string_view line
   }
   while (TakeLastText(rest, firstBrace)) {
   }
+  TakeLines(rest);
   std::reverse(texts_.begin(), texts_.end());
-  Count(rest, firstBrace);
+  Count(line);
   return texts_;
 }
 
@@ -93,10 +96,18 @@ bool LineRecovery::TakeLastText(std::string_view& rest, std::size_t firstBrace) 
   return true;
 }
 
-void LineRecovery::Count(std::string_view rest, std::size_t firstBrace) {
-  const bool isFragment = texts_.empty() ? !rest.empty() : firstBrace < rest.size();
-  total_.fragments += isFragment ? 1 : 0;
-  const bool isAlone = texts_.size() == 1 && !isFragment;
+/// Adds to the texts what begins as a line within `rest`, the last first.
+void LineRecovery::TakeLines(std::string_view rest) {
+  const std::vector<std::string_view>& lines = search_.In(rest);
+  std::copy_if(lines.rbegin(), lines.rend(), std::back_inserter(texts_),
+               [this](std::string_view text) { return check_.IsObject(text); });
+}
+
+void LineRecovery::Count(std::string_view line) {
+  const std::uint64_t fragments = texts_.empty() ? (WithoutTrailingBlanks(line).empty() ? 0 : 1)
+                                                 : FragmentsAround(texts_, line);
+  total_.fragments += fragments;
+  const bool isAlone = texts_.size() == 1 && fragments == 0;
   (isAlone ? total_.whole : total_.recovered) += texts_.size();
 }
 

@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "JsonObjectCheck.h"
+#include "LineSearch.h"
 
 namespace vmetrics {
 
@@ -39,7 +40,8 @@ class LineRecovery {
   /// one that is a fragment through and through.
   ///
   /// What is found are the objects that end where the line ends, or where the next one that was
-  /// found begins. A text without a brace in front of the first, such as a logger puts there, is
+  /// found begins, and wherever they stand those that begin as the library's lines do. What stands
+  /// around them without a brace, such as a logger's prefix or a terminal's reset of colours, is
   /// passed over; with one it is a fragment. Where a fragment's last characters ask for a value, an
   /// object is taken for that value, unless it begins as the library's lines do.
   ///
@@ -52,9 +54,11 @@ class LineRecovery {
 
  private:
   bool TakeLastText(std::string_view& rest, std::size_t firstBrace);
-  void Count(std::string_view rest, std::size_t firstBrace);
+  void TakeLines(std::string_view rest);
+  void Count(std::string_view line);
 
   JsonObjectCheck check_;
+  LineSearch search_;
   std::vector<std::string_view> texts_;
   Counts total_;
 };

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "MetricLookup.h"
+#include "StepResult.h"
 
 namespace vmetrics {
 
@@ -77,11 +78,10 @@ void LogStatistics::AddStep(const LogEntry& entry, std::string_view name) {
     return;
   }
   AddValue(*series, DurationOf(entry));
-  const std::optional<std::int64_t> errorCode = IntegerOf(entry.FindInArgs("errorCode"));
-  const std::optional<std::int64_t> isSuccess = IntegerOf(entry.FindInArgs("isSuccess"));
-  if (errorCode.value_or(0) != 0 || isSuccess.value_or(1) == 0) {
+  const StepResult result = StepResultOf(entry);
+  if (result.isFailed) {
     ++series->failures;
-    series->errorCodes.Add(errorCode);
+    series->errorCodes.Add(result.FailureCode());
   }
 }
 

@@ -2,6 +2,8 @@
 
 #include <optional>
 
+#include "StepResult.h"
+
 namespace vmetrics {
 
 namespace {
@@ -16,11 +18,6 @@ std::optional<std::int64_t> IntegerInArgs(const LogEntry& entry, std::string_vie
   return member != nullptr ? member->Integer() : std::nullopt;
 }
 
-bool IsErrorCode(std::optional<std::int64_t> number) {
-  return number && *number >= std::numeric_limits<std::int32_t>::min() &&
-         *number <= std::numeric_limits<std::int32_t>::max();
-}
-
 }  // namespace
 
 StepRecord StepRecordOf(const LogEntry& entry) {
@@ -33,14 +30,10 @@ StepRecord StepRecordOf(const LogEntry& entry) {
   record.parentName = TextInArgs(entry, "parentStepName");
   record.start = IntegerInArgs(entry, "startTime").value_or(kNoTick);
   record.end = IntegerInArgs(entry, "endTime").value_or(kNoTick);
-  const std::optional<std::int64_t> errorCode = IntegerInArgs(entry, "errorCode");
-  record.hasErrorCode = IsErrorCode(errorCode);
-  if (record.hasErrorCode) {
-    record.errorCode = static_cast<std::int32_t>(*errorCode);
-    record.isFailed = record.errorCode != 0;
-  } else {
-    record.isFailed = IntegerInArgs(entry, "isSuccess") == 0;
-  }
+  const StepResult result = StepResultOf(entry);
+  record.errorCode = result.errorCode.value_or(0);
+  record.hasErrorCode = result.errorCode.has_value();
+  record.isFailed = result.isFailed;
   return record;
 }
 

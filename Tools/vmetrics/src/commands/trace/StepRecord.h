@@ -28,7 +28,7 @@ struct StepRecord {
   std::int64_t end = kNoTick;
   std::int32_t errorCode = 0;
   bool hasErrorCode = false;
-  bool isFailed = false;  ///< By its error code or, where there is none, by "isSuccess".
+  bool isFailed = false;
 };
 
 /// `entry` has to be the record of a step.

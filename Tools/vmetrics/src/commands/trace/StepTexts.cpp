@@ -59,7 +59,7 @@ std::string StepTexts::Error(const TimelineStep& timed) const {
   if (!timed.step->isFailed) {
     return {};
   }
-  return timed.step->hasErrorCode ? std::to_string(timed.step->errorCode) : "?";
+  return timed.step->errorCode != 0 ? std::to_string(timed.step->errorCode) : "?";
 }
 
 std::string StepTexts::Parent(const TimelineStep& timed) const {

@@ -29,7 +29,7 @@ class StepTexts {
 
   std::string Took(const TimelineStep& timed) const;
 
-  /// The error code of a step that failed; none for others.
+  /// The error code of a step that failed, "?" where it has none but 0; nothing for others.
   std::string Error(const TimelineStep& timed) const;
 
   /// Which span the step has for its parent, and where that is.

@@ -107,6 +107,27 @@ TEST(StepStoreTest, ATransactionKnowsItsExtentAndWhetherItFailed) {
   EXPECT_TRUE(transaction.hasFailed);
 }
 
+TEST(StepStoreTest, AnEndFarBehindTheLineItselfIsDoubtful) {
+  StepStore store;
+  StepRecord record = RecordOf("t", "1", "s");
+  record.written = 70;
+  record.start = 50;
+  record.end = 70 + kLongestPause;
+  store.Add(record);
+  const Transaction& transaction = store.Transactions().front();
+  EXPECT_EQ(transaction.lastEnd, 70 + kLongestPause);
+  EXPECT_FALSE(transaction.hasDoubtfulEnd);
+  record.transactionId = "u";
+  ++record.end;
+  store.Add(record);
+  EXPECT_EQ(store.Transactions().back().lastEnd, 70);
+  EXPECT_TRUE(store.Transactions().back().hasDoubtfulEnd);
+  StepStore copy;
+  copy.AddCopy(store, store.Transactions().back());
+  EXPECT_EQ(copy.Transactions().front().lastEnd, 70);
+  EXPECT_TRUE(copy.Transactions().front().hasDoubtfulEnd);
+}
+
 TEST(StepStoreTest, ACopyIsTheSameInAnotherStore) {
   StepStore store;
   StepRecord record = RecordOf("order-7", "span", "first");

@@ -164,6 +164,46 @@ TEST_F(TimelineTest, StepsWithOddTimesDoNotCountForTheScale) {
                                           "before 1970", "no date"));
 }
 
+constexpr std::int64_t kDay = 24 * 3600 * 1000;
+
+TEST_F(TimelineTest, ASingleStepIsInScaleHoweverLongItTook) {
+  Add("a", 0, 40 * kDay);
+  EXPECT_EQ(Make().Count(Placement::kInScale), 1U);
+  EXPECT_EQ(Make().Duration(), 40 * kDay);
+}
+
+TEST_F(TimelineTest, OfTwoStepsTheLongerThan31DaysIsFarAway) {
+  Add("a", 0, 10);
+  Add("b", 0, 40 * kDay);
+  EXPECT_EQ(Make().Count(Placement::kFarAway), 1U);
+  EXPECT_EQ(Make().Duration(), 10);
+}
+
+TEST_F(TimelineTest, StepsThatFollowEachOtherAreInScaleHoweverLongItTakes) {
+  Add("a", 0, 10);
+  Add("b", 30 * kDay, 30 * kDay);
+  Add("c", 61 * kDay, 61 * kDay);
+  EXPECT_EQ(Make().Count(Placement::kInScale), 3U);
+  EXPECT_EQ(Make().Duration(), 61 * kDay);
+}
+
+TEST_F(TimelineTest, AStepIsFarAwayFrom31DaysOn) {
+  Add("a", 0, 0);
+  Add("b", 1, 31 * kDay);
+  EXPECT_EQ(Make().Count(Placement::kFarAway), 0U);
+  Add("c", 62 * kDay + 1, 62 * kDay + 2);
+  EXPECT_EQ(Make().Count(Placement::kFarAway), 1U);
+}
+
+TEST_F(TimelineTest, TheScaleIsWhereMostStepsLie) {
+  AddRecord("1970", 0, 5, 0, "x");
+  AddRecord("1970, too", 5, 7, 0, "y");
+  Add("now", 0, 10);
+  EXPECT_EQ(Make().Duration(), 7);
+  Add("now, too", 10, 30);
+  EXPECT_EQ(Make().Duration(), 30);
+}
+
 TEST_F(TimelineTest, WithoutAnyUsableTimeThereIsNoScale) {
   AddRecord("none", kNoTick, kNoTick, 0, "v");
   EXPECT_FALSE(Make().HasScale());

@@ -1,3 +1,16 @@
+The last transaction is the one whose last step ended last; an end long after the record was written
+is none:
+
+  $ printf '{"transactionId":"wild","timestamp":1000,"spanId":"w","args":{"stepName":"s","startTime":900,"endTime":253402300799999}}\n{"transactionId":"last","timestamp":2000,"spanId":"l","args":{"stepName":"s","startTime":1900,"endTime":2000}}\n' >wild.log
+  $ vmetrics trace --last 1 wild.log
+  last  1970-01-01 00:00:01.900 UTC  100 ms  1 step  0 failed
+    step  start    took  0                                                  100 ms
+    s      0 ms  100 ms  =========================================================
+  $ vmetrics trace --last 1 --slower-than 1000000 wild.log
+  wild  1970-01-01 00:00:00.900 UTC  2932897 d 00 h  1 step  0 failed
+    step  start            took  0                                  2932897 d 00 h
+    s      0 ms  2932897 d 00 h  =================================================
+
 Of a long log the last transactions are shown, in memory that does not grow with it. Some more are
 kept in case steps of them come late: here the first transaction comes back after 25,000 others, and
 the one of which a step failed is found again.

@@ -29,8 +29,9 @@ struct Selection {
   /// be fast enough to be left out, as times that cannot be right count here.
   bool MayInclude(const Transaction& transaction) const {
     return (!onlyFailed || transaction.hasFailed) &&
-           (!slowerThan || (transaction.firstStart != kNoTick && transaction.lastEnd != kNoTick &&
-                            transaction.lastEnd - transaction.firstStart > *slowerThan));
+           (!slowerThan || transaction.hasDoubtfulEnd ||
+            (transaction.firstStart != kNoTick && transaction.lastEnd != kNoTick &&
+             transaction.lastEnd - transaction.firstStart > *slowerThan));
   }
 };
 

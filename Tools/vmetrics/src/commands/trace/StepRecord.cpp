@@ -30,6 +30,8 @@ StepRecord StepRecordOf(const LogEntry& entry) {
   record.parentName = TextInArgs(entry, "parentStepName");
   record.start = IntegerInArgs(entry, "startTime").value_or(kNoTick);
   record.end = IntegerInArgs(entry, "endTime").value_or(kNoTick);
+  const Member* written = entry.Find("timestamp");
+  record.written = written != nullptr ? written->Integer().value_or(kNoTick) : kNoTick;
   const StepResult result = StepResultOf(entry);
   record.errorCode = result.errorCode.value_or(0);
   record.hasErrorCode = result.errorCode.has_value();

@@ -28,6 +28,7 @@ void StepStore::Add(const StepRecord& record) {
   step.hasErrorCode = record.hasErrorCode;
   step.isFailed = record.isFailed;
   Append(step, transaction);
+  Extend(transaction, record);
 }
 
 void StepStore::AddCopy(const StepStore& other, const Transaction& transaction) {
@@ -37,6 +38,10 @@ void StepStore::AddCopy(const StepStore& other, const Transaction& transaction) 
                : identifier;
   };
   Transaction& copy = TransactionOf(copied(transaction.identifier));
+  copy.firstStart = transaction.firstStart;
+  copy.lastEnd = transaction.lastEnd;
+  copy.hasFailed = transaction.hasFailed;
+  copy.hasDoubtfulEnd = transaction.hasDoubtfulEnd;
   for (const Step* original : other.StepsOf(transaction)) {
     Step step = *original;
     step.description = Describe(other.DescriptionOf(*original));
@@ -81,16 +86,22 @@ void StepStore::Append(Step step, Transaction& transaction) {
   step.previous = transaction.newest;
   transaction.newest = static_cast<std::uint32_t>(steps_.size());
   ++transaction.stepCount;
-  transaction.hasFailed = transaction.hasFailed || step.isFailed;
-  if (IsDate(step.end)) {
-    transaction.lastEnd = std::max(transaction.lastEnd, step.end);
-  }
-  if (IsDate(step.start)) {
-    transaction.firstStart = transaction.firstStart == kNoTick
-                                 ? step.start
-                                 : std::min(transaction.firstStart, step.start);
-  }
   steps_.push_back(step);
+}
+
+/// A clock that was set wrongly for a moment must not make its transaction the last one for ever.
+void StepStore::Extend(Transaction& transaction, const StepRecord& record) {
+  transaction.hasFailed = transaction.hasFailed || record.isFailed;
+  if (IsDate(record.end)) {
+    const bool isDoubtful = IsDate(record.written) && record.end - record.written > kLongestPause;
+    transaction.hasDoubtfulEnd = transaction.hasDoubtfulEnd || isDoubtful;
+    transaction.lastEnd = std::max(transaction.lastEnd, isDoubtful ? record.written : record.end);
+  }
+  if (IsDate(record.start)) {
+    transaction.firstStart = transaction.firstStart == kNoTick
+                                 ? record.start
+                                 : std::min(transaction.firstStart, record.start);
+  }
 }
 
 std::uint32_t StepStore::Describe(const Description& description) {

@@ -32,11 +32,12 @@ static_assert(sizeof(Step) == 64, "logs have millions of them");
 
 struct Transaction {
   std::int64_t firstStart = kNoTick;  ///< Of those that are dates.
-  std::int64_t lastEnd = kNoTick;     ///< Likewise.
+  std::int64_t lastEnd = kNoTick;     ///< Likewise; of a doubtful one when its line was written.
   std::uint32_t newest = HashIndex::kNone;
   std::uint32_t stepCount = 0;
   Identifier identifier;
   bool hasFailed = false;
+  bool hasDoubtfulEnd = false;  ///< One that lies far behind the time when its line was written.
 };
 
 static_assert(sizeof(Transaction) == 48, "logs have millions of them");
@@ -72,6 +73,7 @@ class StepStore {
  private:
   Transaction& TransactionOf(const Identifier& identifier);
   void Append(Step step, Transaction& transaction);
+  static void Extend(Transaction& transaction, const StepRecord& record);
   std::uint32_t Describe(const Description& description);
 
   std::deque<Step> steps_;

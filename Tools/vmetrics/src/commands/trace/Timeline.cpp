@@ -1,6 +1,7 @@
 #include "trace/Timeline.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <tuple>
 #include <utility>
@@ -42,30 +43,59 @@ void DropCopies(std::vector<const Step*>& steps, Timeline& timeline) {
   steps.erase(std::remove(steps.begin(), steps.end(), nullptr), steps.end());
 }
 
-/// The end in the middle of all ends: what a few wild ones do not move.
-std::int64_t MiddleEnd(const std::vector<const Step*>& steps) {
-  std::vector<std::int64_t> ends;
+bool HasDates(const Step& step) { return IsDate(step.start) && IsDate(step.end); }
+
+/// A time in which starts and ends follow each other without one being far away from the next.
+struct Stretch {
+  std::int64_t first;
+  std::int64_t last;
+  std::size_t steps = 0;  ///< That lie in it with both their ends.
+
+  bool Holds(std::int64_t tick) const { return first <= tick && tick <= last; }
+};
+
+std::vector<Stretch> StretchesOf(const std::vector<const Step*>& steps) {
+  std::vector<std::int64_t> ticks;
   for (const Step* step : steps) {
-    if (IsDate(step->start) && IsDate(step->end)) {
-      ends.push_back(step->end);
+    if (HasDates(*step)) {
+      ticks.insert(ticks.end(), {step->start, step->end});
     }
   }
-  if (ends.empty()) {
-    return kNoTick;
+  std::sort(ticks.begin(), ticks.end());
+  std::vector<Stretch> stretches;
+  for (const std::int64_t tick : ticks) {
+    if (stretches.empty() || tick - stretches.back().last > kLongestPause) {
+      stretches.push_back({tick, tick});
+    }
+    stretches.back().last = tick;
   }
-  const auto middle = ends.begin() + static_cast<std::ptrdiff_t>(ends.size() / 2);
-  std::nth_element(ends.begin(), middle, ends.end());
-  return *middle;
+  return stretches;
 }
 
-Placement PlacementOf(const Step& step, std::int64_t middle) {
-  if (!IsDate(step.start) || !IsDate(step.end)) {
+/// The stretch in which most steps lie, and of equal ones the last, as clocks start in 1970. Where
+/// none lies in one, as with a single step that took months, nothing is odd about any: all of time.
+Stretch MainStretch(const std::vector<const Step*>& steps) {
+  std::vector<Stretch> stretches = StretchesOf(steps);
+  Stretch main = {0, std::numeric_limits<std::int64_t>::max()};
+  for (const Step* step : steps) {
+    if (HasDates(*step) && step->start <= step->end) {
+      const auto behind = std::upper_bound(
+          stretches.begin(), stretches.end(), step->start,
+          [](std::int64_t tick, const Stretch& stretch) { return tick < stretch.first; });
+      std::prev(behind)->steps += std::prev(behind)->Holds(step->end) ? 1 : 0;
+    }
+  }
+  for (const Stretch& stretch : stretches) {
+    main = stretch.steps > 0 && stretch.steps >= main.steps ? stretch : main;
+  }
+  return main;
+}
+
+Placement PlacementOf(const Step& step, const Stretch& main) {
+  if (!HasDates(step)) {
     return Placement::kNoDate;
   }
-  const auto isFar = [middle](std::int64_t tick) {
-    return tick < middle - Timeline::kFarAway || tick > middle + Timeline::kFarAway;
-  };
-  if (isFar(step.start) || isFar(step.end)) {
+  if (!main.Holds(step.start) || !main.Holds(step.end)) {
     return Placement::kFarAway;
   }
   return step.end < step.start ? Placement::kEndsBeforeStart : Placement::kInScale;
@@ -185,10 +215,10 @@ std::size_t Timeline::Count(Placement placement) const {
 Timeline TimelineOf(std::vector<const Step*> steps) {
   Timeline timeline;
   DropCopies(steps, timeline);
-  const std::int64_t middle = MiddleEnd(steps);
+  const Stretch main = MainStretch(steps);
   timeline.steps.reserve(steps.size());
   for (const Step* step : steps) {
-    timeline.steps.push_back({step, PlacementOf(*step, middle)});
+    timeline.steps.push_back({step, PlacementOf(*step, main)});
     timeline.failures += step->isFailed ? 1 : 0;
     if (timeline.steps.back().placement == Placement::kInScale) {
       timeline.start = timeline.HasScale() ? std::min(timeline.start, step->start) : step->start;

@@ -14,7 +14,7 @@ namespace vmetrics {
 enum class Placement {
   kInScale,
   kEndsBeforeStart,  ///< The clock was set meanwhile.
-  kFarAway,          ///< Starts or ends more than Timeline::kFarAway from the others.
+  kFarAway,          ///< Starts or ends more than kLongestPause from where the others lie.
   kNoDate            ///< A time is missing or is none.
 };
 
@@ -36,8 +36,6 @@ struct Longest {
 };
 
 struct Timeline {
-  /// No transaction is expected to take so long, in milliseconds: 31 days.
-  static constexpr std::int64_t kFarAway = std::int64_t{31} * 24 * 3600 * 1000;
   /// A gap is told when it takes one part in so many of the transaction.
   static constexpr std::int64_t kGapShare = 20;
 

@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
 
 #include "Table.h"
+#include "Text.h"
 
 namespace vmetrics {
 namespace {
+
+const std::string kCut(CutMark());
 
 Table TwoRows() {
   Table table({"NAME", "COUNT", "", "MAX"});
@@ -35,8 +38,8 @@ TEST(TableTest, NothingFitsIntoNoWidth) {
             "   COUNT     MAX\n"
             "short\n"
             "       1 +1   10\n"
-            "a lo…\n"
-            "  100000       7\n");
+            "a lo" +
+                kCut + "\n  100000       7\n");
 }
 
 TEST(TableTest, LinesOfTheirOwnTakeNoPartInTheColumns) {
@@ -45,8 +48,8 @@ TEST(TableTest, LinesOfTheirOwnTakeNoPartInTheColumns) {
   table.AddRow({"x", "1"});
   EXPECT_EQ(table.Text(20),
             "NAME  MAX\n"
-            "a line that is long…\n"
-            "x       1\n");
+            "a line that is long" +
+                kCut + "\nx       1\n");
 }
 
 TEST(TableTest, WidthIsThatOfTheCharacters) {

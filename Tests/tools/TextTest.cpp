@@ -72,17 +72,19 @@ TEST(FittedTest, ShortTextIsFilledUp) {
   EXPECT_EQ(Fitted("尝试", 6), "尝试  ");
 }
 
+const std::string kCut(CutMark());
+
 TEST(FittedTest, LongTextIsCut) {
-  EXPECT_EQ(Fitted("abcd", 3), "ab…");
-  EXPECT_EQ(Fitted("größer", 4), "grö…");
-  EXPECT_EQ(Fitted("abcd", 1), "…");
+  EXPECT_EQ(Fitted("abcd", 3), "ab" + kCut);
+  EXPECT_EQ(Fitted("größer", 4), "grö" + kCut);
+  EXPECT_EQ(Fitted("abcd", 1), kCut);
   EXPECT_EQ(Fitted("abcd", 0), "");
 }
 
 TEST(FittedTest, CharacterThatDoesNotFitIsLeftOut) {
-  EXPECT_EQ(Fitted("尝试连", 5), "尝试…");
-  EXPECT_EQ(Fitted("尝试连", 4), "尝… ");
-  EXPECT_EQ(Fitted("尝试连", 2), "… ");
+  EXPECT_EQ(Fitted("尝试连", 5), "尝试" + kCut);
+  EXPECT_EQ(Fitted("尝试连", 4), "尝" + kCut + " ");
+  EXPECT_EQ(Fitted("尝试连", 2), kCut + " ");
 }
 
 TEST(FittedTest, TakesItsColumnsWhateverTheText) {

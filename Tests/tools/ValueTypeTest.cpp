@@ -3,6 +3,7 @@
 #include <string>
 
 #include "Records.h"
+#include "Text.h"
 #include "records/ValueType.h"
 
 namespace vmetrics {
@@ -91,7 +92,8 @@ TEST(ValueTypeTest, AnyByteButZeroIsTrue) {
 
 TEST(ValueTypeTest, LongTextIsShownInPart) {
   EXPECT_EQ(Type("string").show(std::string(100, 'x')), "\"" + std::string(100, 'x') + "\"");
-  EXPECT_EQ(Type("string").show(std::string(60000, 'x')), "\"" + std::string(99, 'x') + "…\"");
+  EXPECT_EQ(Type("string").show(std::string(60000, 'x')),
+            "\"" + std::string(99, 'x') + std::string(CutMark()) + "\"");
 }
 
 TEST(ValueTypeTest, TextIsFitForATerminal) {

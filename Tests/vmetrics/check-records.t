@@ -135,7 +135,7 @@ A metric without its value: whoever wrote it did not know the metric, or it was 
 Long texts are cut, and nothing in them gets to the terminal as it is:
 
   $ metric '"302645249"' 1 4618 '"7"' "{\"displayFPS\":\"\\u001b[31m$(head -c 1000 /dev/zero | tr '\0' x)\"}" | check
-  args: displayFPS is "\\u001b[31mxxxxxxxxxxxxxxxxxxxxxxxxxxxxx\xe2\x80\xa6", not a 32-bit number (esc)
+  args: displayFPS is "\u001b[31mxxxxxxxxxxxxxxxxxxxxxxxxxxxxx~", not a 32-bit number
   $ metric '"302645249"' 1 4618 '"7"' '{"\u001b[31m":60}' | check
   args: \u001b[31m: not part of args
   args: args lacks displayFPS

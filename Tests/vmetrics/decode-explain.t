@@ -151,7 +151,7 @@ Only the beginning of a long value is shown:
                                                     moduleId 4618: group 0x12 (display), side 0x0A (server); index 5
                                                     displayResolution: string, not private
          8  2c 01 00 00              dataLength     300
-        12  78 78 78 78 78 78 78 78  data           "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx\xe2\x80\xa6" (esc)
+        12  78 78 78 78 78 78 78 78  data           "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx~"
             78 78 78 78 78 78 78 78
             78 78 78 78 78 78 78 78
             78 78 78 78 78 78 78 78

@@ -188,7 +188,7 @@ Values that are none of their type:
   vmetrics: "{"a":1" is no json, as 302645257 needs it: a comma or } is missing at byte 6 of it, where it ends; see vmetrics encode --help
   [2]
   $ vmetrics encode 302645257 "[$(head -c 300 /dev/zero | tr '\0' 1)"
-  vmetrics: "[11111111111111111111111111111111111111111111111111111111111111111111111111111111111111111111111111\xe2\x80\xa6" is no json, as 302645257 needs it: a comma or ] is missing at byte 301 of it, where it ends; see vmetrics encode --help (esc)
+  vmetrics: "[11111111111111111111111111111111111111111111111111111111111111111111111111111111111111111111111111~" is no json, as 302645257 needs it: a comma or ] is missing at byte 301 of it, where it ends; see vmetrics encode --help
   [2]
   $ echo '6;blob;odd;0' >types
   $ vmetrics encode --definitions types 6 x

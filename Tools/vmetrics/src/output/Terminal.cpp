@@ -4,6 +4,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -56,11 +57,21 @@ bool HasUtf8Locale() {
   for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"}) {
     if (IsSet(variable)) {
       // The name is enough: a locale that is not installed is one that the terminal may have.
-      const std::string_view name = std::getenv(variable);  // NOLINT(concurrency-mt-unsafe)
-      return name.find("UTF-8") != name.npos || name.find("utf8") != name.npos;
+      return IsUtf8Locale(std::getenv(variable));  // NOLINT(concurrency-mt-unsafe)
     }
   }
   return false;
+}
+
+bool IsUtf8Locale(std::string_view name) {
+  const std::string_view behindDot = name.substr(std::min(name.find('.'), name.size()));
+  std::string codeset;
+  for (const char c : behindDot.substr(0, behindDot.find('@'))) {
+    if (c != '.' && c != '-') {
+      codeset += static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+    }
+  }
+  return codeset == "utf8";
 }
 
 std::string Styled(Style style, std::string_view text) {

@@ -22,6 +22,10 @@ std::size_t OutputWidth();
 /// than ASCII may be shown where that is our choice.
 bool HasUtf8Locale();
 
+/// Whether a locale of that name is one of UTF-8: "de_DE.UTF-8", "C.utf8@euro". As everywhere, it
+/// does not matter how the encoding is written.
+bool IsUtf8Locale(std::string_view name);
+
 /// How a text stands out, where there are colours.
 enum class Style { kPlain, kBold, kDim, kRed, kGreen, kYellow };
 

@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+#include "Terminal.h"
+
 namespace vmetrics {
 
 namespace {
@@ -86,6 +88,11 @@ std::size_t WidthOf(std::string_view text) {
   return room - (filled - text.size());
 }
 
+std::string_view CutMark() {
+  static const bool hasUtf8 = HasUtf8Locale();
+  return hasUtf8 ? "…" : "~";
+}
+
 std::string Fitted(std::string_view text, std::size_t width) {
   if (WidthOf(text) <= width) {
     return fmt::format("{:<{}}", text, width);
@@ -100,8 +107,9 @@ std::string Fitted(std::string_view text, std::size_t width) {
     }
     end += size;
   }
-  return width == 0 ? std::string()
-                    : fmt::format("{:<{}}", std::string(text.substr(0, end)) + "…", width);
+  return width == 0
+             ? std::string()
+             : fmt::format("{:<{}}", fmt::format("{}{}", text.substr(0, end), CutMark()), width);
 }
 
 std::string AlignedRight(std::string_view text, std::size_t width) {

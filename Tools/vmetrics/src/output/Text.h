@@ -17,7 +17,12 @@ std::string Printable(std::string_view text);
 /// Columns that a printable text takes; characters of East Asia take two.
 std::size_t WidthOf(std::string_view text);
 
-/// `text` cut to `width` columns, its last one then "…", or filled up to them with blanks behind.
+/// What stands, in one column, for the rest of a text that was cut: "…", or "~" where the user's
+/// locale is not one of UTF-8.
+std::string_view CutMark();
+
+/// `text` cut to `width` columns, its last one then that mark, or filled up to them with blanks
+/// behind.
 std::string Fitted(std::string_view text, std::size_t width);
 
 /// `text` with blanks in front of it up to `width` columns.

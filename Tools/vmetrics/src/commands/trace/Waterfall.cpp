@@ -44,7 +44,6 @@ class Waterfall {
   std::size_t IndentOf(const TimelineStep& timed) const;
   std::string BarOf(const TimelineStep& timed, const Scale& scale) const;
   Scale MakeScale() const;
-  std::string Cut(std::string_view text, std::size_t width) const;
 
   const TransactionView& view_;
   const Timeline& timeline_;
@@ -137,7 +136,8 @@ void Waterfall::ShowGap(const TimelineStep& timed) const {
 
 void Waterfall::ShowLine(std::string_view mark, const Cells& cells, Style text, Style bar) const {
   constexpr std::string_view kBetween = "  ";
-  std::string line = fmt::format("{:<{}}", mark, kMark) + Styled(text, Cut(cells.name, nameWidth_));
+  std::string line =
+      fmt::format("{:<{}}", mark, kMark) + Styled(text, Fitted(cells.name, nameWidth_));
   line.append(kBetween).append(Styled(text, AlignedRight(cells.start, startWidth_)));
   line.append(kBetween).append(Styled(text, AlignedRight(cells.took, tookWidth_)));
   if (errorWidth_ > 0) {
@@ -170,16 +170,6 @@ std::string Waterfall::BarOf(const TimelineStep& timed, const Scale& scale) cons
 
 Scale Waterfall::MakeScale() const {
   return {timeline_.start, timeline_.end, barWidth_, form_.hasBlocks};
-}
-
-std::string Waterfall::Cut(std::string_view text, std::size_t width) const {
-  std::string cut = Fitted(text, width);
-  constexpr std::string_view kEllipsis = "…";
-  const std::size_t at = WidthOf(text) > width ? cut.rfind(kEllipsis) : cut.npos;
-  if (!form_.hasBlocks && at != cut.npos) {
-    cut.replace(at, kEllipsis.size(), "~");
-  }
-  return cut;
 }
 
 }  // namespace

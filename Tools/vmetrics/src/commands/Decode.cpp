@@ -76,7 +76,6 @@ int Decode::Run() {
     try {
       DecodeFile(file);
     } catch (const InputError& error) {
-      progress_.Clear();
       FinishOutput();
       Complain(Printable(error.what()));
       status_ = kTrouble;
@@ -134,7 +133,6 @@ void Decode::Tell(const FoundRecord& record, std::string_view line, const std::s
     if (!line.empty()) {
       WriteLine(line);
     }
-    progress_.Clear();
     FinishOutput();  // So that the complaint stands where it belongs when both go to one place.
     Complain(fmt::format("{}: record {} at byte {} {}", Printable(record.file), record.number,
                          record.offset, fault));

@@ -21,8 +21,7 @@ void LogFiles::Read(LogReader::Hooks hooks) {
   RefuseStandardInputTwice(names_);
   Progress progress;
   hooks.progress = [&progress](const Input& input) { progress.Show(input); };
-  hooks.unreadable = [this, &progress](const InputError& error) {
-    progress.Clear();
+  hooks.unreadable = [this](const InputError& error) {
     Complain(Printable(error.what()));
     isUnreadable_ = true;
   };

@@ -22,19 +22,10 @@ void Progress::Show(const Input& input) {
   const std::uint64_t megabytes = input.Position() / kMegabyte;
   const std::string name = Fitted(Printable(input.Name()), 40);
   if (input.Size() > 0) {
-    WriteToStandardError(fmt::format("\r{} {:3} % of {} MB\033[K", name,
-                                     input.Position() * 100 / input.Size(),
-                                     input.Size() / kMegabyte));
+    ShowPassingLine(fmt::format("{} {:3} % of {} MB", name, input.Position() * 100 / input.Size(),
+                                input.Size() / kMegabyte));
   } else {
-    WriteToStandardError(fmt::format("\r{} {} MB\033[K", name, megabytes));
-  }
-  isShown_ = true;
-}
-
-void Progress::Clear() {
-  if (isShown_) {
-    WriteToStandardError("\r\033[K");
-    isShown_ = false;
+    ShowPassingLine(fmt::format("{} {} MB", name, megabytes));
   }
 }
 

@@ -16,6 +16,8 @@ namespace {
 
 constexpr std::size_t kUsualWidth = 80;
 
+bool isPassingLineShown = false;
+
 bool IsSet(const char* variable) {
   const char* value = std::getenv(variable);  // NOLINT(concurrency-mt-unsafe): nobody sets any.
   return value != nullptr && *value != '\0';
@@ -35,8 +37,6 @@ const char* CodeOf(Style style) {
       return "2";
     case Style::kRed:
       return "31";
-    case Style::kGreen:
-      return "32";
     case Style::kYellow:
       return "33";
     case Style::kPlain:
@@ -81,7 +81,25 @@ std::string Styled(Style style, std::string_view text) {
              : std::string(text);
 }
 
-void Write(std::string_view text) { std::fwrite(text.data(), 1, text.size(), stdout); }
+void ShowPassingLine(std::string_view text) {
+  WriteToStandardError(fmt::format("\r{}\033[K", text));
+  isPassingLineShown = true;
+}
+
+void RemovePassingLine() {
+  if (isPassingLineShown) {
+    WriteToStandardError("\r\033[K");
+    isPassingLineShown = false;
+  }
+}
+
+void Write(std::string_view text) {
+  static const bool isTerminal = isatty(STDOUT_FILENO) == 1;
+  if (isTerminal) {
+    RemovePassingLine();
+  }
+  std::fwrite(text.data(), 1, text.size(), stdout);
+}
 
 void FinishOutput() {
   errno = 0;
@@ -96,6 +114,9 @@ void WriteToStandardError(std::string_view text) {
   std::fflush(stderr);
 }
 
-void Complain(std::string_view text) { WriteToStandardError(fmt::format("vmetrics: {}\n", text)); }
+void Complain(std::string_view text) {
+  RemovePassingLine();
+  WriteToStandardError(fmt::format("vmetrics: {}\n", text));
+}
 
 }  // namespace vmetrics

@@ -27,11 +27,16 @@ bool HasUtf8Locale();
 bool IsUtf8Locale(std::string_view name);
 
 /// How a text stands out, where there are colours.
-enum class Style { kPlain, kBold, kDim, kRed, kGreen, kYellow };
+enum class Style { kPlain, kBold, kDim, kRed, kYellow };
 
 /// `text` in that style, if standard output is a terminal, NO_COLOR is unset or empty and TERM is
 /// not "dumb"; otherwise as it is.
 std::string Styled(Style style, std::string_view text);
+
+/// Shows a text on standard error, which has to be a terminal, in place of the one shown before. It
+/// stays until something is written to the same terminal, or it is removed.
+void ShowPassingLine(std::string_view text);
+void RemovePassingLine();
 
 /// Writes to standard output, through its buffer.
 void Write(std::string_view text);

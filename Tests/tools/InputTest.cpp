@@ -153,7 +153,9 @@ TEST_F(InputTest, MissingFileIsAnError) {
   EXPECT_EQ(ErrorOf(name_), name_ + ": No such file or directory");
 }
 
-TEST_F(InputTest, EmptyNameIsAnError) { EXPECT_EQ(ErrorOf(""), ": No such file or directory"); }
+TEST_F(InputTest, EmptyNameIsAnError) {
+  EXPECT_EQ(ErrorOf(""), R"("": No such file or directory)");
+}
 
 TEST_F(InputTest, DirectoryIsAnError) {
   EXPECT_EQ(ErrorOf(directory_.Path()), directory_.Path() + ": Is a directory");

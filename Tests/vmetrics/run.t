@@ -108,7 +108,7 @@ What does not exist, what is no program, a directory, a path through a file, no 
   126
   126
   $ vmetrics run --step s --metrics log -- ''; echo $?; error_code
-  vmetrics: : No such file or directory
+  vmetrics: "": No such file or directory
   127
   127
   $ vmetrics run --step s --metrics log -- "$(printf 'a\033[31mb')"; echo $?
@@ -212,7 +212,7 @@ Help:
   Runs a command as a step of a transaction: times it and writes a step record
   with its exit status as error code, to standard error unless a file is named.
   Neither the command's name nor its arguments are recorded.
-  Usage: vmetrics run [OPTIONS] [command...]
+  Usage: vmetrics run [OPTIONS] --step NAME -- COMMAND [ARGUMENT...]
   
   Positionals:
     command -- COMMAND ...      The command and its arguments, behind --

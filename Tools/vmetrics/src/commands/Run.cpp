@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -13,7 +14,9 @@
 
 #include "Command.h"
 #include "CommandWatch.h"
+#include "FileState.h"
 #include "HeldSignals.h"
+#include "HelpFormatter.h"
 #include "StartedCommand.h"
 #include "Text.h"
 #include "VMetrics.h"
@@ -38,6 +41,7 @@ constexpr const char* kFooter =
 const std::string kParentFromFile = "ParentSpanId";
 constexpr const char* kStandardOutput = "-";
 constexpr int kWarnings = 2;
+constexpr std::size_t kIdentifierSize = 36;
 
 enum StepStatus : int { kStarts = 0, kEnds = 1 };
 
@@ -52,6 +56,15 @@ struct StepOptions {
   bool isParentFromFile = false;
   std::optional<std::string> metricsFile;
   std::string spanDirectory;
+};
+
+/// The command is no option, as the parser must not touch it, but has to be there.
+class RunFormatter : public HelpFormatter {
+ public:
+  // NOLINTNEXTLINE(readability-identifier-naming): the name of the base class.
+  std::string make_usage(const CLI::App* /*app*/, std::string /*name*/) const override {
+    return "Usage: vmetrics run [OPTIONS] --step NAME -- COMMAND [ARGUMENT...]\n";
+  }
 };
 
 /// How a command came to its end.
@@ -84,6 +97,13 @@ void Check(const StepOptions& options, char** command) {
   }
 }
 
+void CheckStandardOutput(const StepOptions& options) {
+  if (options.metricsFile == kStandardOutput && fcntl(STDOUT_FILENO, F_GETFD) < 0) {
+    throw std::runtime_error(fmt::format("standard output: {}; the command was not run",
+                                         std::generic_category().message(errno)));
+  }
+}
+
 void Configure(const StepOptions& options) {
   VPlatformConfig::SetDiagnosticsLevel(kWarnings);
   if (!VPlatformConfig::SetLockFileDirectory(options.spanDirectory)) {
@@ -92,8 +112,8 @@ void Configure(const StepOptions& options) {
   if (options.metricsFile && options.metricsFile != kStandardOutput &&
       !VPlatformConfig::SetMetricsFile(*options.metricsFile)) {
     const std::string reason = ReasonOfRefusal(errno);
-    throw std::runtime_error(
-        fmt::format("{}: {}; the command was not run", Printable(*options.metricsFile), reason));
+    throw std::runtime_error(fmt::format("{}: {}; the command was not run",
+                                         PrintableName(*options.metricsFile), reason));
   }
 }
 
@@ -101,7 +121,8 @@ class RunningStep {
  public:
   explicit RunningStep(const StepOptions& options)
       : options_(options),
-        transactionId_(options.transactionId ? *options.transactionId : VMetrics::GenerateUuid()) {}
+        transactionId_(options.transactionId ? *options.transactionId : VMetrics::GenerateUuid()),
+        spanFile_(options.spanDirectory.empty() ? "spanId" : options.spanDirectory + "/spanId") {}
 
   void Start() const {
     if (Insert(kStarts, 0) != VMETRICS_OK) {
@@ -111,19 +132,34 @@ class RunningStep {
 
   /// Nothing that goes wrong here is the command's failure: it is told, no more.
   void End(int errorCode) const try {
+    const std::string spanBefore = BeginningOf(spanFile_);
+    const std::optional<FileExtent> logBefore = MetricsFileExtent();
     if (Insert(kEnds, errorCode) != VMETRICS_OK) {
       Complain("the step is not recorded");
+      return;
     }
-    if (VMetrics::GetCurrentParentSpanId() == kParentFromFile) {
-      const std::string place = options_.spanDirectory.empty() ? "" : options_.spanDirectory + "/";
-      Complain(fmt::format("{}spanId: cannot be locked; the steps that follow do not find this one",
-                           Printable(place)));
+    // Others who write there meanwhile may hide that we could not; but what is told is true.
+    if (logBefore && MetricsFileExtent() == logBefore) {
+      Complain(fmt::format("{}: cannot be written; the step is not recorded",
+                           Printable(*options_.metricsFile)));
+    }
+    const std::string span = BeginningOf(spanFile_);
+    if (span == spanBefore || span.size() < kIdentifierSize) {
+      Complain(
+          fmt::format("{}: cannot be locked or written; the steps that follow do not find "
+                      "this one",
+                      Printable(spanFile_)));
     }
   } catch (const std::exception& error) {
     Complain(fmt::format("the step is not recorded: {}", error.what()));
   }
 
  private:
+  std::optional<FileExtent> MetricsFileExtent() const {
+    const bool isFile = options_.metricsFile && options_.metricsFile != kStandardOutput;
+    return isFile ? ExtentOf(*options_.metricsFile) : std::nullopt;
+  }
+
   int Insert(StepStatus status, int errorCode) const {
     const std::string& parent = options_.isParentFromFile ? kParentFromFile : options_.parentId;
     return VMetrics::InsertRecord(status, transactionId_.c_str(), options_.eventId.c_str(),
@@ -132,6 +168,7 @@ class RunningStep {
 
   const StepOptions& options_;
   const std::string transactionId_;
+  const std::string spanFile_;
 };
 
 Ending EndingOf(int waitStatus, int startError) {
@@ -153,6 +190,7 @@ void DieOf(int signal, const HeldSignals& signals) {
 
 int RunStep(const StepOptions& options, char** command) {
   Check(options, command);
+  CheckStandardOutput(options);
   OccupyStandardStreams();
   Configure(options);
   const RunningStep step(options);
@@ -163,8 +201,8 @@ int RunStep(const StepOptions& options, char** command) {
   const int waitStatus = CommandWatch(started.Id(), signals).WaitForEnd();
   const int startError = started.StartError();
   if (startError != 0) {
-    Complain(
-        fmt::format("{}: {}", Printable(*command), std::generic_category().message(startError)));
+    Complain(fmt::format("{}: {}", PrintableName(*command),
+                         std::generic_category().message(startError)));
   }
   const Ending ending = EndingOf(waitStatus, startError);
   step.End(ending.exitStatus);
@@ -179,6 +217,7 @@ int RunStep(const StepOptions& options, char** command) {
 void AddRun(CLI::App& program, Action& action, char** command) {
   CLI::App* run = program.add_subcommand("run", kDescription);
   run->footer(kFooter);
+  run->formatter(std::make_shared<RunFormatter>());
   const auto options = std::make_shared<StepOptions>();
   run->add_option("--step", options->name, "Name of the step")->type_name("NAME")->required();
   run->add_option("--transaction", options->transactionId,

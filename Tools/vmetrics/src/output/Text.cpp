@@ -80,6 +80,8 @@ std::string Printable(std::string_view text) {
   return printable;
 }
 
+std::string PrintableName(std::string_view name) { return name.empty() ? "\"\"" : Printable(name); }
+
 std::size_t WidthOf(std::string_view text) {
   // The formatter fills up by columns: what it does not add to a wide field is what the text takes.
   constexpr std::size_t kPerCharacter = 2;

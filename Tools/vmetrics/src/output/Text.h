@@ -14,6 +14,9 @@ namespace vmetrics {
 /// direction of writing. An ill-formed UTF-8 sequence becomes U+FFFD.
 std::string Printable(std::string_view text);
 
+/// A name as a message tells it: printable, and "" in quotes where it is empty.
+std::string PrintableName(std::string_view name);
+
 /// Columns that a printable text takes; characters of East Asia take two.
 std::size_t WidthOf(std::string_view text);
 

@@ -83,7 +83,10 @@ bool Input::Stream::Fill() {
   return count > 0;
 }
 
-Input::Input(const std::string& name) : name_(name == "-" ? "standard input" : name) {
+Input::Input(const std::string& name)
+    : name_(name == "-"    ? "standard input"
+            : name.empty() ? "\"\""
+                           : name) {
   const int descriptor = Open(name);
   struct stat status;
   if (descriptor < 0 || fstat(descriptor, &status) != 0) {

@@ -27,8 +27,7 @@ void Note(std::vector<std::string>& notes, std::size_t count, std::string_view o
 }
 
 std::string NameOf(const StepStore& store, const Step& step) {
-  const std::string name = Printable(store.DescriptionOf(step).name);
-  return name.empty() ? "\"\"" : name;
+  return PrintableName(store.DescriptionOf(step).name);
 }
 
 bool HasDates(const TimelineStep& timed) { return timed.placement != Placement::kNoDate; }

@@ -18,6 +18,19 @@ Steps whose times cannot be right are shown as they are, and do not spoil the sc
     until 2100         400 ms  26703 d 08 h                               =======>
     * slowest path; longest on it: after, 500 ms of 500 ms
     2 steps begin or end more than 31 days away, beyond the scale
+  $ step() { printf '{"transactionId":"t","spanId":"%s","args":{"stepName":"s","startTime":%s,"endTime":%s}}\n' "$@"; }
+  $ (step 1 1000 1005; step 2 1002 1001; step 3 1004 1003; step 2 1000 9999999999; step 3 1001 1002) | vmetrics trace
+  t  1970-01-01 00:00:01.000 UTC  5 ms  5 steps  0 failed
+    step  start        took  0                                                5 ms
+    s      0 ms  115 d 18 h  ====================================================>
+  * s      0 ms        5 ms  =====================================================
+  *   s    1 ms        1 ms            ===========
+    s      2 ms       -1 ms                       !
+    s      4 ms       -1 ms                                            !
+    * slowest path; longest on it: s, 4 ms of 5 ms
+    ! 2 steps end before their start
+    1 step begins or ends more than 31 days away, beyond the scale
+    2 steps have the span ID of another one
   $ trace 'forty days'
   forty days  2026-11-21 16:20:57.733 UTC  40 d 00 h  1 step  0 failed
     step  start       took  0                                            40 d 00 h

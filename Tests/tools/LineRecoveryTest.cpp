@@ -98,8 +98,9 @@ TEST_F(LineRecoveryTest, LinesOnBothSidesOfAFragmentAreRecovered) {
 }
 
 TEST_F(LineRecoveryTest, SuffixIsPassedOver) {
+  const std::string line = "INFO " + kFirst;
   for (const std::string suffix : {"\033[0m", " (1.2 ms)", "\"", "]", "\\", ",", ":"}) {
-    EXPECT_THAT(Take("INFO " + kFirst + suffix), ElementsAre(kFirst)) << suffix;
+    EXPECT_THAT(Take(line + suffix), ElementsAre(kFirst)) << suffix;
   }
   ExpectTotal({7, 0, 0});
 }

@@ -164,7 +164,7 @@ TEST_F(TimelineTest, StepsWithOddTimesDoNotCountForTheScale) {
                                           "before 1970", "no date"));
 }
 
-constexpr std::int64_t kDay = 24 * 3600 * 1000;
+constexpr std::int64_t kDay = std::int64_t{24} * 3600 * 1000;
 
 TEST_F(TimelineTest, ASingleStepIsInScaleHoweverLongItTook) {
   Add("a", 0, 40 * kDay);

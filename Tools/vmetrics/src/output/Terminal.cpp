@@ -55,9 +55,10 @@ std::size_t OutputWidth() {
 
 bool HasUtf8Locale() {
   for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"}) {
-    if (IsSet(variable)) {
+    const char* name = std::getenv(variable);  // NOLINT(concurrency-mt-unsafe): as above.
+    if (name != nullptr && *name != '\0') {
       // The name is enough: a locale that is not installed is one that the terminal may have.
-      return IsUtf8Locale(std::getenv(variable));  // NOLINT(concurrency-mt-unsafe)
+      return IsUtf8Locale(name);
     }
   }
   return false;
@@ -75,8 +76,8 @@ bool IsUtf8Locale(std::string_view name) {
 }
 
 std::string Styled(Style style, std::string_view text) {
-  static const bool hasColours = HasColours();
-  return hasColours && style != Style::kPlain
+  static const bool kHasColours = HasColours();
+  return kHasColours && style != Style::kPlain
              ? fmt::format("\033[{}m{}\033[0m", CodeOf(style), text)
              : std::string(text);
 }
@@ -94,8 +95,8 @@ void RemovePassingLine() {
 }
 
 void Write(std::string_view text) {
-  static const bool isTerminal = isatty(STDOUT_FILENO) == 1;
-  if (isTerminal) {
+  static const bool kIsTerminal = isatty(STDOUT_FILENO) == 1;
+  if (kIsTerminal) {
     RemovePassingLine();
   }
   std::fwrite(text.data(), 1, text.size(), stdout);

@@ -91,8 +91,8 @@ std::size_t WidthOf(std::string_view text) {
 }
 
 std::string_view CutMark() {
-  static const bool hasUtf8 = HasUtf8Locale();
-  return hasUtf8 ? "…" : "~";
+  static const bool kHasUtf8 = HasUtf8Locale();
+  return kHasUtf8 ? "…" : "~";
 }
 
 std::string Fitted(std::string_view text, std::size_t width) {

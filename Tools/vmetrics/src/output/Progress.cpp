@@ -10,14 +10,14 @@
 
 namespace vmetrics {
 
-Progress::Progress()
-    : isTerminal_(isatty(STDERR_FILENO) == 1), next_(Clock::now() + std::chrono::seconds(1)) {}
+Progress::Progress(Clock::time_point (*now)())
+    : now_(now), isTerminal_(isatty(STDERR_FILENO) == 1), next_(now() + std::chrono::seconds(1)) {}
 
 void Progress::Show(const Input& input) {
-  if (!isTerminal_ || Clock::now() < next_) {
+  if (!isTerminal_ || now_() < next_) {
     return;
   }
-  next_ = Clock::now() + std::chrono::milliseconds(200);
+  next_ = now_() + std::chrono::milliseconds(200);
   constexpr std::uint64_t kMegabyte = 1000000;
   const std::uint64_t megabytes = input.Position() / kMegabyte;
   const std::string name = Fitted(Printable(input.Name()), 40);

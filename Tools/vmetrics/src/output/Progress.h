@@ -14,7 +14,10 @@ namespace vmetrics {
 /// nothing before a second has passed.
 class Progress {
  public:
-  Progress();
+  using Clock = std::chrono::steady_clock;
+
+  /// `now` tells the time.
+  explicit Progress(Clock::time_point (*now)() = Clock::now);
   ~Progress() { RemovePassingLine(); }
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
@@ -23,8 +26,7 @@ class Progress {
   void Show(const Input& input);
 
  private:
-  using Clock = std::chrono::steady_clock;
-
+  Clock::time_point (*const now_)();
   const bool isTerminal_;
   Clock::time_point next_;
 };

@@ -17,6 +17,8 @@ namespace {
 constexpr std::size_t kUsualWidth = 80;
 
 bool isPassingLineShown = false;
+/// Whether standard output goes to a terminal, too.
+bool isOutputBesideIt = false;
 
 bool IsSet(const char* variable) {
   const char* value = std::getenv(variable);  // NOLINT(concurrency-mt-unsafe): nobody sets any.
@@ -85,6 +87,7 @@ std::string Styled(Style style, std::string_view text) {
 void ShowPassingLine(std::string_view text) {
   WriteToStandardError(fmt::format("\r{}\033[K", text));
   isPassingLineShown = true;
+  isOutputBesideIt = isatty(STDOUT_FILENO) == 1;
 }
 
 void RemovePassingLine() {
@@ -95,8 +98,7 @@ void RemovePassingLine() {
 }
 
 void Write(std::string_view text) {
-  static const bool kIsTerminal = isatty(STDOUT_FILENO) == 1;
-  if (kIsTerminal) {
+  if (isOutputBesideIt) {
     RemovePassingLine();
   }
   std::fwrite(text.data(), 1, text.size(), stdout);

@@ -3,7 +3,7 @@
 
 usage: tool.py VMETRICS LOG [DOCUMENT]
 
-Prints the table; with DOCUMENT also writes it there, between the two marker lines.
+Then a million packed numeric records are decoded. Prints the table; with DOCUMENT also writes it there, between the two marker lines.
 """
 
 import collections
@@ -22,6 +22,8 @@ BEGIN = "<!-- tool: begin -->"
 END = "<!-- tool: end -->"
 LEAST_RATE = 300  # MB a second of one processor's time.
 MOST_MEMORY = 200  # MB.
+RECORDS = 1000000
+LEAST_RECORDS = 1000000  # A second of one processor's time.
 
 Run = collections.namedtuple("Run", "wall processor memory")
 Command = collections.namedtuple("Command", "title words repetitions is_ours")
@@ -103,6 +105,27 @@ def row(command, runs, megabytes):
             f"{memory_text(memory, command)} |")
 
 
+def decoding_text(vmetrics):
+    """How quickly records become lines, the records lying in a file and the lines in another."""
+    record = subprocess.run([vmetrics, "encode", "302645249", "60"], stdout=subprocess.PIPE,
+                            check=True).stdout
+    with tempfile.NamedTemporaryFile() as records:
+        records.write(record * RECORDS)
+        records.flush()
+        words = ["sh", "-c", '"$1" decode --numeric "$2" >"$3" && wc -l <"$3"', "sh", vmetrics,
+                 records.name, records.name + ".lines"]
+        try:
+            results = [run(words) for _ in range(5)]
+        finally:
+            pathlib.Path(records.name + ".lines").unlink(missing_ok=True)
+    if any(int(lines) != RECORDS for _, lines in results):
+        sys.exit("A record was not decoded.")
+    rate = RECORDS / statistics.median(result.processor for result, _ in results)
+    return (f"`vmetrics decode --numeric` of {RECORDS} records: {rate / 1e6:.1f} million a second "
+            f"(>= {LEAST_RECORDS / 1e6:.1f}: {'yes' if rate >= LEAST_RECORDS else '**no**'}), "
+            "counting the lines included.")
+
+
 def main():
     vmetrics, log = sys.argv[1:3]
     megabytes = pathlib.Path(log).stat().st_size / 1e6
@@ -125,7 +148,7 @@ def main():
         f"count found the same {len(counts)} steps and metrics.",
         "",
         "| what | wall, s | user and system, s | MB/s of these | peak memory, MB |",
-        "|---|---|---|---|---|"] + rows)
+        "|---|---|---|---|---|"] + rows + ["", decoding_text(vmetrics)])
     print(text)
     if len(sys.argv) > 3:
         report.write_table(sys.argv[3], BEGIN, END, text)

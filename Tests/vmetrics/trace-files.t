@@ -7,6 +7,7 @@ last line break:
   $ sed 's/.*/\x1b[32m&\x1b[0m/' whole.log | vmetrics trace | cmp - usual
   $ sed 's/$/\r/' whole.log | vmetrics trace | cmp - usual
   $ printf %s "$(cat whole.log)" | vmetrics trace | cmp - usual
+  $ gzip <whole.log >whole.log.gz; vmetrics trace whole.log.gz | cmp - usual
   $ tr -d '\n' <whole.log >glued.log
   $ vmetrics trace glued.log | cmp - usual
   vmetrics: 1 damaged line (glued.log:1): 5 records recovered, 0 fragments left out; vmetrics check shows each
@@ -54,6 +55,14 @@ Files that cannot be read do not keep the others from being shown:
   vmetrics: cut.log.gz: the compressed data ends too early
   vmetrics: the logs hold no step
   vmetrics: 1 damaged line (cut.log.gz:1): 0 records recovered, 1 fragment left out; vmetrics check shows each
+  [2]
+
+A file that vanishes is read to its end where it had been opened before:
+
+  $ cp whole.log vanishing.log
+  $ { rm vanishing.log; vmetrics trace - | cmp - usual; vmetrics trace vanishing.log; } <vanishing.log
+  vmetrics: vanishing.log: No such file or directory
+  vmetrics: the logs hold no step
   [2]
 
 Output that cannot be written:

@@ -71,11 +71,31 @@ class Redirection {
   const int saved_;
 };
 
+class RedirectionToFile {
+ public:
+  RedirectionToFile(int descriptor, const std::string& name)
+      : file_(open(name.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600)),
+        redirection_(descriptor, file_) {
+    close(file_);
+  }
+
+ private:
+  const int file_;
+  const Redirection redirection_;
+};
+
+void ReadAll(Input& input) {
+  while (!input.Read().empty()) {
+  }
+}
+
 class ProgressTest : public testing::Test {
  protected:
-  ProgressTest() {
-    now = {};
-    FileContent::Write(name_, std::string(3000000, '\n'));
+  ProgressTest() { now = {}; }
+
+  static std::string LogIn(const TemporaryDirectory& directory) {
+    FileContent::Write(directory / "log", std::string(3000000, '\n'));
+    return directory / "log";
   }
 
   /// The line that shows the file with these words behind its name.
@@ -83,32 +103,37 @@ class ProgressTest : public testing::Test {
     return "\r" + Fitted(name_, 40) + " " + words + "\033[K";
   }
 
+  /// Shows a progress that began a second ago, in front of what the test is about.
+  void ShowOnce(Progress& progress) {
+    now += milliseconds(1000);
+    progress.Show(input_);
+    terminal_.Shown();
+  }
+
   const TemporaryDirectory directory_;
-  const std::string name_ = directory_ / "log";
+  const std::string name_ = LogIn(directory_);
   const TestTerminal terminal_;
   const Redirection error_{STDERR_FILENO, terminal_.Descriptor()};
+  Input input_{name_};
 };
 
 constexpr const char* kRemoved = "\r\033[K";
 
 TEST_F(ProgressTest, NothingIsShownInTheFirstSecond) {
-  const Input input(name_);
   Progress progress(Now);
   now += milliseconds(999);
-  progress.Show(input);
+  progress.Show(input_);
   EXPECT_EQ(terminal_.Shown(), "");
 }
 
 TEST_F(ProgressTest, ShareOfAFileIsShown) {
-  Input input(name_);
   Progress progress(Now);
   now += milliseconds(1000);
-  progress.Show(input);
+  progress.Show(input_);
   EXPECT_EQ(terminal_.Shown(), LineWith("  0 % of 3 MB"));
-  while (!input.Read().empty()) {
-  }
+  ReadAll(input_);
   now += milliseconds(200);
-  progress.Show(input);
+  progress.Show(input_);
   EXPECT_EQ(terminal_.Shown(), LineWith("100 % of 3 MB"));
 }
 
@@ -121,8 +146,7 @@ TEST_F(ProgressTest, MegabytesOfAPipeAreShown) {
   const Redirection standardInput(STDIN_FILENO, ends[0]);
   close(ends[0]);
   Input input("-");
-  while (!input.Read().empty()) {
-  }
+  ReadAll(input);
   Progress progress(Now);
   now += milliseconds(1000);
   progress.Show(input);
@@ -130,75 +154,53 @@ TEST_F(ProgressTest, MegabytesOfAPipeAreShown) {
 }
 
 TEST_F(ProgressTest, AtMostFiveLinesASecondAreShown) {
-  const Input input(name_);
   Progress progress(Now);
-  now += milliseconds(1000);
-  progress.Show(input);
-  terminal_.Shown();
+  ShowOnce(progress);
   now += milliseconds(199);
-  progress.Show(input);
+  progress.Show(input_);
   EXPECT_EQ(terminal_.Shown(), "");
   now += milliseconds(1);
-  progress.Show(input);
+  progress.Show(input_);
   EXPECT_EQ(terminal_.Shown(), LineWith("  0 % of 3 MB"));
 }
 
 TEST_F(ProgressTest, LineIsRemovedInTheEnd) {
   {
-    const Input input(name_);
     Progress progress(Now);
-    now += milliseconds(1000);
-    progress.Show(input);
-    terminal_.Shown();
+    ShowOnce(progress);
   }
   EXPECT_EQ(terminal_.Shown(), kRemoved);
 }
 
 TEST_F(ProgressTest, LineIsRemovedBeforeAComplaint) {
-  const Input input(name_);
   Progress progress(Now);
-  now += milliseconds(1000);
-  progress.Show(input);
-  terminal_.Shown();
+  ShowOnce(progress);
   Complain("bad");
   EXPECT_EQ(terminal_.Shown(), std::string(kRemoved) + "vmetrics: bad\r\n");
 }
 
 TEST_F(ProgressTest, LineIsRemovedBeforeOutputOnATerminal) {
   const Redirection output(STDOUT_FILENO, terminal_.Descriptor());
-  const Input input(name_);
   Progress progress(Now);
-  now += milliseconds(1000);
-  progress.Show(input);
-  terminal_.Shown();
+  ShowOnce(progress);
   Write("result");
   EXPECT_EQ(terminal_.Shown(), kRemoved);
 }
 
 TEST_F(ProgressTest, LineStaysWhereOutputGoesElsewhere) {
-  const TemporaryDirectory directory;
-  const int file = open((directory / "out").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-  const Redirection output(STDOUT_FILENO, file);
-  close(file);
-  const Input input(name_);
+  const RedirectionToFile output(STDOUT_FILENO, directory_ / "output");
   Progress progress(Now);
-  now += milliseconds(1000);
-  progress.Show(input);
-  terminal_.Shown();
+  ShowOnce(progress);
   Write("result");
   EXPECT_EQ(terminal_.Shown(), "");
 }
 
 TEST_F(ProgressTest, NothingIsShownWhereStandardErrorIsNoTerminal) {
-  const std::string elsewhere = directory_ / "error";
-  const int file = open(elsewhere.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-  const Redirection error(STDERR_FILENO, file);
-  close(file);
-  const Input input(name_);
+  const RedirectionToFile error(STDERR_FILENO, directory_ / "error");
   Progress progress(Now);
   now += milliseconds(1000);
-  progress.Show(input);
-  EXPECT_EQ(FileContent::Read(elsewhere), "");
+  progress.Show(input_);
+  EXPECT_EQ(FileContent::Read(directory_ / "error"), "");
 }
 
 }  // namespace

@@ -27,12 +27,6 @@ A file that cannot be the metrics file: the command is not run, while there is t
   vmetrics: "": No such file or directory; the command was not run
   [125]
 
-So it is where there can be no pipe to it, as too many files are open:
-
-  $ sh -c 'ulimit -n 5; exec vmetrics run --step s --metrics log -- echo hello'
-  vmetrics: no pipe to the command: Too many open files
-  [125]
-
 A record that no longer fits:
 
   $ : >log

@@ -39,11 +39,13 @@ A command that has its own way with a signal keeps it; one that has not is ended
 
   $ mkfifo ready
   $ cat >patient <<'END'
-  > #!/bin/sh
-  > trap 'kill $!; echo tidied up; exit 9' TERM
-  > sleep 60 &
-  > echo >ready
-  > wait
+  > #!/usr/bin/env python3
+  > import signal, sys
+  > signal.pthread_sigmask(signal.SIG_BLOCK, {signal.SIGTERM})
+  > print(file=open("ready", "w"))
+  > signal.sigwait({signal.SIGTERM})
+  > print("tidied up")
+  > sys.exit(9)
   > END
   $ chmod +x patient
   $ vmetrics run --step s --metrics log -- ./patient &

@@ -25,11 +25,16 @@ were not there.
   > print("in all:", *names, "end")
   > END
   $ cat >sleeping <<'END'
-  > #!/bin/sh
-  > trap 'kill $!; echo told; exit 4' HUP INT TERM
-  > sleep 60 &
-  > echo started
-  > wait
+  > #!/usr/bin/env python3
+  > """Sleeps until one of the signals comes that end a program, and may come more than once."""
+  > import contextlib, os, signal, sys
+  > ends = {signal.SIGHUP, signal.SIGINT, signal.SIGTERM}
+  > signal.pthread_sigmask(signal.SIG_BLOCK, ends)
+  > os.write(1, b"started\n")
+  > signal.sigwait(ends)
+  > with contextlib.suppress(OSError):  # Where the terminal is gone.
+  >     os.write(1, b"told\n")
+  > sys.exit(4)
   > END
   $ chmod +x waiting counting sleeping
 

@@ -13,7 +13,12 @@ target_include_directories(VPlatformContract INTERFACE $<INSTALL_INTERFACE:${hea
 # Under another prefix than the system's the libraries are not where the loader looks by itself.
 if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
   set_target_properties(VMetrics PROPERTIES INSTALL_RPATH $ORIGIN)
-  set(tool_library_path $ORIGIN/../${CMAKE_INSTALL_LIBDIR})
+  if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_BINDIR}")
+    set(tool_library_path ${CMAKE_INSTALL_FULL_LIBDIR})
+  else()  # Both may be moved, together.
+    file(RELATIVE_PATH path ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+    set(tool_library_path $ORIGIN/${path})
+  endif()
 endif()
 install(TARGETS VMetrics VPlatform VPlatformContract EXPORT VMetricsTargets
   LIBRARY COMPONENT libraries NAMELINK_COMPONENT development)

@@ -50,14 +50,24 @@ install(FILES ${PROJECT_BINARY_DIR}/VMetricsConfig.cmake
   ${PROJECT_BINARY_DIR}/VMetricsConfigVersion.cmake
   DESTINATION ${package_directory} COMPONENT development)
 
+# Where the files are installed by another prefix than the configured one, or moved, that one is
+# found from them; not so in the system's, which pkg-config knows by its name.
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+  set(pkgconfig_prefix ${CMAKE_INSTALL_PREFIX})
+else()
+  file(RELATIVE_PATH path /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+  string(REGEX REPLACE "/$" "" pkgconfig_prefix "\${pcfiledir}/${path}")
+endif()
 # A directory may be given as an absolute one, which then has no part of the prefix.
 foreach(directory INCLUDE LIB)
-  cmake_path(IS_ABSOLUTE CMAKE_INSTALL_${directory}DIR is_absolute)
-  if(is_absolute)
+  if(IS_ABSOLUTE "${CMAKE_INSTALL_${directory}DIR}")
     set(pkgconfig_${directory}DIR ${CMAKE_INSTALL_${directory}DIR})
   else()
     set(pkgconfig_${directory}DIR "\${prefix}/${CMAKE_INSTALL_${directory}DIR}")
   endif()
+endforeach()
+foreach(variable prefix INCLUDEDIR LIBDIR)
+  string(REPLACE " " "\\ " pkgconfig_${variable} "${pkgconfig_${variable}}")
 endforeach()
 set(pkgconfig_modules vmetrics)
 if(TARGET VMetricsTestKit)

@@ -60,14 +60,20 @@ TEST(SpanChainTest, FileHoldsTheLastIdentifierAndIsItsOwnersAlone) {
 TEST(SpanChainTest, AnotherProcessReadsTheCurrentParent) {
   const TemporaryDirectory directory;
   const ProbeResult tracing = RunProbe(directory, Step("a"));
-  const ProbeResult reading = RunProbe(directory, {"diagnostics", "3", "parent"});
+  const ProbeResult reading = RunProbe(directory, {"parent"});
   const auto records = ParseJsonLines(tracing.Metrics());
   ASSERT_EQ(records.size(), 1U);
-  const std::string identifier = TextOf(records[0], "spanId");
-  EXPECT_THAT(reading.Values("parent"), ElementsAre(identifier));
+  EXPECT_THAT(reading.Values("parent"), ElementsAre(TextOf(records[0], "spanId")));
+}
+
+TEST(SpanChainTest, ReadingTheCurrentParentIsTold) {
+  const TemporaryDirectory directory;
+  FileContent::Write(directory / "spanId", "00000000-0000-4000-8000-000000000001");
+  const ProbeResult reading = RunProbe(directory, {"diagnostics", "3", "parent"});
   EXPECT_THAT(reading.diagnostics,
-              testing::MatchesRegex(".* INFO GetCurrentParentSpanId: parentSpanId = " + identifier +
-                                    " \\[Framework/VMetrics/src/DotRecord:[0-9]+\\]\n"));
+              testing::MatchesRegex(".* INFO GetCurrentParentSpanId: parentSpanId = "
+                                    "00000000-0000-4000-8000-000000000001 "
+                                    "\\[Framework/VMetrics/src/DotRecord:[0-9]+\\]\n"));
 }
 
 // The file is found through the directory that the host names, wherever the processes stand.

@@ -1,7 +1,9 @@
 // What the framework relies on in whatever platform it stands on, as docs/platform.md has it. Of
 // JSON there is little: the framework's own tests look at that on each platform.
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -10,7 +12,10 @@
 
 #include "BoundsChecked.h"
 #include "FileContent.h"
+#include "JsonLines.h"
+#include "ProbeProcess.h"
 #include "TemporaryDirectory.h"
+#include "TestPipe.h"
 #include "VDateTime.h"
 #include "VFileLock.h"
 #include "VIpc.h"
@@ -25,6 +30,29 @@ TEST(LoggerContractTest, MetricsLineIsTheTextAndALineBreak) {
   VLogger::GetInstance().Metrics("%s", text.c_str());
   VLogger::GetInstance().Metrics("%s", "{}");
   EXPECT_EQ(testing::internal::GetCapturedStdout(), text + "\n{}\n");
+}
+
+TEST(LoggerContractTest, LineAndLineBreakAreWrittenAsOne) {
+  const TestPipe packets(O_DIRECT | O_NONBLOCK);
+  const int output = dup(STDOUT_FILENO);
+  dup2(packets.Writer(), STDOUT_FILENO);
+  VLogger::GetInstance().Metrics("%s", "{}");
+  dup2(output, STDOUT_FILENO);
+  close(output);
+  EXPECT_EQ(packets.Read(), "{}\n");
+}
+
+// An exit handler that is older than the first use of the logger comes after all destructors of
+// its.
+TEST(LoggerContractTest, WritesWhileTheProcessExits) {
+  const TemporaryDirectory directory;
+  const ProbeResult once = RunProbe(directory, {"everything"});
+  const ProbeResult twice = RunProbe(directory, {"everything-at-exit", "everything"});
+  ASSERT_TRUE(Succeeded(once));
+  ASSERT_TRUE(Succeeded(twice));
+  const std::size_t lines = ParseJsonLines(once.Metrics()).size();
+  EXPECT_GT(lines, 0U);
+  EXPECT_EQ(ParseJsonLines(twice.Metrics()).size(), 2 * lines);
 }
 
 TEST(LoggerContractTest, DiagnosticsTellTheirMessageElsewhere) {

@@ -1,5 +1,6 @@
 /// \file
-/// JSON texts, built member by member or taken over from elsewhere.
+/// JSON texts, built member by member or taken over from elsewhere. It needs C++17; the other
+/// headers take C++11.
 ///
 /// Example:
 ///
@@ -11,6 +12,10 @@
 ///     line.ToString();  // {"args":{"stepName":"Connect","errorCode":0}}
 #ifndef VJSON_H_
 #define VJSON_H_
+
+#if __cplusplus < 201703L
+#error "VJson.h needs C++17 or later."
+#endif
 
 #include <cstddef>
 #include <memory>

@@ -91,8 +91,11 @@ if(VMETRICS_BUILD_TOOLS)
     DESTINATION ${CMAKE_INSTALL_DATADIR}/vmetrics COMPONENT tool)
 endif()
 
+# The pages, and the sources that they speak of.
 file(GLOB documents docs/*.md)
 install(FILES ${documents} DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
+  PATTERN customer EXCLUDE REGEX examples/CMakeLists.txt$ EXCLUDE)
 
 if(VMETRICS_PACKAGES_OF)
   include(cmake/packages.cmake)

@@ -11,12 +11,11 @@
 /// Example:
 ///
 ///     TestKit::Reset();
-///     TestKit::ScriptTicks({1000, 1250});  // Its first step starts at 1000 ms, ends at 1250 ms.
-///     PlaceOrder("order-7", 3);            // The component's own function.
-///     std::string failure = TestKit::ExpectStep("ORDER",
-///     "place").Succeeded().UsedTime(250).Failure(); assert(failure.empty()); // any program
-///     EXPECT_EQ(TestKit::ExpectMetric("order_placed").Arg("items", "3").Failure(), "");  //
-///     GoogleTest
+///     OpenShop();                          // The component's own functions.
+///     TestKit::ScriptTicks({1000, 1250});  // The first step starts at 1000 ms, ends at 1250 ms.
+///     PlaceOrder("order-7", 3);
+///     EXPECT_EQ(TestKit::ExpectStep("ORDER", "check stock").UsedTime(250).Failure(), "");
+///     EXPECT_EQ(TestKit::ExpectMetric("order_placed").Arg("items", "3").Failure(), "");
 ///
 /// Threads: every function may be called from any thread, also while others report. A test that
 /// wants to see all of what a thread has reported waits for that thread first. Reset and SetTick,
@@ -39,8 +38,7 @@
 
 namespace TestKit {
 
-// The stage
-// ----------------------------------------------------------------------------------------
+// The stage.
 
 /// What the clock reads after Reset, in milliseconds since the Unix epoch.
 const unsigned long kFirstTick = 1700000000000UL;
@@ -88,8 +86,7 @@ void RefuseAllLocks();
 /// one fails. Until Reset.
 void LimitWrites(int bytes);
 
-// What was recorded
-// ---------------------------------------------------------------------------------
+// What was recorded.
 
 /// Members of a JSON object by name, each value as JSON text: 3, 41.50, true, "shop" with its
 /// quotes, {"nested":1}. Of equal names the last one counts.
@@ -150,8 +147,7 @@ std::vector<Step> Steps();
 ///     std::string identifier = TestKit::FindStep("ORDER", "place").spanId;
 Step FindStep(const std::string& eventId, const std::string& stepName);
 
-// Checks
-// --------------------------------------------------------------------------------------------
+// Checks.
 
 /// What a test wants of a step; made by ExpectStep. Each function adds a condition. Once one has
 /// failed, the others are not looked at. For one thread at a time.
@@ -187,8 +183,7 @@ class StepCheck {
 /// Wants the step `stepName` of the event `eventId` to have ended; conditions are for the one that
 /// ended last.
 ///
-///     TestKit::ExpectStep("ORDER", "place").Succeeded().UsedTime(250).ParentStep("log
-///     in").Failure()
+///     TestKit::ExpectStep("ORDER", "place").UsedTime(250).ParentStep("log in").Failure()
 StepCheck ExpectStep(const std::string& eventId, const std::string& stepName);
 
 /// What a test wants of a metric; made by ExpectMetric. Otherwise as StepCheck.
@@ -204,7 +199,7 @@ class MetricCheck {
 
   /// What is wrong, for people; empty if nothing is.
   ///
-  ///     metric "order_placed": args member "items" is 3, wanted 4
+  ///     metric "nox_user_connect": args member "items" is 3, wanted 4
   std::string Failure() const { return failure_; }
 
  private:

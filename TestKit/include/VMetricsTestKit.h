@@ -186,6 +186,10 @@ class StepCheck {
 ///     TestKit::ExpectStep("ORDER", "place").UsedTime(250).ParentStep("log in").Failure()
 StepCheck ExpectStep(const std::string& eventId, const std::string& stepName);
 
+/// Wants no step `stepName` of the event `eventId` to have ended. Returns the line of the one that
+/// ended last; empty if there is none.
+std::string ExpectNoStep(const std::string& eventId, const std::string& stepName);
+
 /// What a test wants of a metric; made by ExpectMetric. Otherwise as StepCheck.
 class MetricCheck {
  public:
@@ -194,7 +198,7 @@ class MetricCheck {
   /// The member `name` of "args" is the JSON text `wanted`, letter for letter: 3, "shop" with its
   /// quotes.
   MetricCheck& Arg(const std::string& name, const std::string& wanted);
-  /// Metrics of this event ID were reported `wanted` times since Reset.
+  /// Metrics of this event ID were reported `wanted` times since Reset; with 0, never.
   MetricCheck& Times(int wanted);
 
   /// What is wrong, for people; empty if nothing is.
@@ -214,8 +218,8 @@ class MetricCheck {
   std::string failure_;
 };
 
-/// Wants a metric of the event ID to have been reported; conditions are for the one that was
-/// reported last.
+/// Wants a metric of the event ID to have been reported, or, with Times(0), not to have been;
+/// conditions are for the one that was reported last.
 ///
 ///     TestKit::ExpectMetric("order_placed").ServiceName("shop").Arg("items", "3").Failure()
 MetricCheck ExpectMetric(const std::string& eventId);

@@ -69,6 +69,12 @@ TEST_F(StepCheckTest, MissingStepShowsWhatWasWritten) {
                 TestKit::MetricsLines()[0] + "\n  " + TestKit::MetricsLines()[1]);
 }
 
+TEST_F(StepCheckTest, StepIsToBeMissing) {
+  EXPECT_EQ(TestKit::ExpectNoStep("ORDER", "pay"), "");
+  EXPECT_EQ(TestKit::ExpectNoStep("ORDER", "log in"),
+            "step \"log in\" of event \"ORDER\" has ended:\n  " + TestKit::MetricsLines()[0]);
+}
+
 TEST_F(ChecksTest, MissingStepWithoutAnyLine) {
   Start("place");
   EXPECT_EQ(ExpectStep("ORDER", "place").Failure(),
@@ -109,6 +115,15 @@ TEST_F(ChecksTest, MetricWasReportedAnotherNumberOfTimes) {
   Report("{}");
   EXPECT_EQ(ExpectMetric("nox_user_connect").Times(2).Failure(),
             "metric \"nox_user_connect\": number of reports is 1, wanted 2");
+}
+
+TEST_F(ChecksTest, MetricIsToBeMissing) {
+  EXPECT_EQ(ExpectMetric("nox_user_connect").Times(0).Failure(), "");
+  EXPECT_EQ(ExpectMetric("nox_user_connect").Times(1).Failure(),
+            "no metric \"nox_user_connect\" was reported; no metrics line was written");
+  Report("{}");
+  EXPECT_EQ(ExpectMetric("nox_user_connect").Times(0).Failure(),
+            "metric \"nox_user_connect\": number of reports is 1, wanted 0");
 }
 
 TEST_F(ChecksTest, MetricIsMissing) {

@@ -2,11 +2,11 @@
 /// at.
 ///
 /// A test program that links the kit (CMake: VMetrics::TestKit, pkg-config: vmetrics-testkit) and
-/// calls a function of it replaces the embedded platform's logger, clock and locked files. Lines
-/// are kept in memory instead of being written, the clock stands still until the test moves it,
-/// the span file is no file, and locks and writes fail when they are told to. Everything else is
-/// the library as it is shipped. No test framework is needed, and any will do: a check hands out a
-/// text that says what is wrong, empty if all is well.
+/// calls a function of it replaces the embedded platform's logger, clock, locked files and settings
+/// (VPlatformConfig.h). Lines are kept in memory instead of being written, the clock stands still
+/// until the test moves it, the span file is no file, and locks, writes and settings fail when they
+/// are told to. Everything else is the library as it is shipped. No test framework is needed, and
+/// any will do: a check hands out a text that says what is wrong, empty if all is well.
 ///
 /// Example:
 ///
@@ -45,7 +45,8 @@ const unsigned long kFirstTick = 1700000000000UL;
 
 /// Makes everything as at the start of the program; to be called at the beginning of each test.
 ///
-/// Nothing is recorded, the span file is gone, nothing fails, and the clock stands at kFirstTick.
+/// Nothing is recorded or set, the span file is gone, nothing fails, and the clock stands at
+/// kFirstTick.
 /// The catalogue becomes what it was at the first call of Reset: a metric type that was registered
 /// before stays, one that a test has registered is gone. Steps that were started and not ended
 /// cannot be taken back: give each test transaction IDs of its own.
@@ -85,6 +86,11 @@ void RefuseAllLocks();
 /// Lets no write to the span file write more than `bytes`, as if the disk were full; with -1 each
 /// one fails. Until Reset.
 void LimitWrites(int bytes);
+
+/// Lets the platform refuse the names of files and directories that it is given, with `error` in
+/// errno (ENOENT, say), as if the directory were missing: SetMetricsFile, SetDiagnosticsFile and
+/// SetLockFileDirectory of VPlatformConfig return false. 0 stands for taking them again.
+void RefuseNames(int error);
 
 // What was recorded.
 
@@ -126,6 +132,19 @@ struct Step {
   unsigned long endTime = 0;    ///< The tick at its end.
   unsigned long usedTime = 0;   ///< Milliseconds from start to end.
 };
+
+/// What was set by the functions of VPlatformConfig since Reset. Nothing else comes of it: no file
+/// is opened, and what a level would hide from people is recorded all the same.
+struct Settings {
+  std::string metricsFile;           ///< As it was named; empty for standard output.
+  std::string diagnosticsFile;       ///< As it was named; empty for standard error.
+  int diagnosticsLevel = 2;          ///< Up to which level diagnostics would be let through.
+  std::string lockFileDirectory;     ///< Empty for the working directory.
+  unsigned int lockFileMode = 0600;  ///< The permissions of new files.
+};
+
+/// What the platform is set to.
+Settings PlatformSettings();
 
 /// Every line of the metrics channel since Reset, without line breaks, oldest first.
 std::vector<std::string> MetricsLines();

@@ -4,6 +4,7 @@
 
 #include "FakePlatform.h"
 #include "FakePlatformState.h"
+#include "ResetSettings.h"
 #include "VMetrics.h"
 #include "VMetricsTestKit.h"
 
@@ -34,6 +35,7 @@ void Reset() {
   VMetrics::GetMetricsMap() = first.metrics;
   VMetrics::GetMetricsStringMap() = first.events;
   FakePlatform::Reset();
+  ResetSettings();
 }
 
 void SetTick(unsigned long tick) { FakePlatform::ScriptTicks({tick}); }

@@ -37,6 +37,31 @@ A document whose commands answer as it shows; what is no console and no file is 
   $ "$TESTDIR/run" good.md copied
   8 commands and files, 0 not as good.md shows them
 
+What root is told is left alone, too, unless it is to be done, whatever it answers; but it must not
+fail:
+
+  $ cat >root.md <<'END'
+  > ```sh
+  > echo an answer
+  > touch installed
+  > ```
+  > ```console
+  > $ ls
+  > installed
+  > ```
+  > ```sh
+  > this-is-no-command
+  > ```
+  > END
+  $ "$TESTDIR/run" --as-root root.md
+  root.md: line 10: this-is-no-command
+  fails with exit status 127, which the document does not show
+  
+  4 commands and files, 1 not as root.md shows them
+  [1]
+  $ "$TESTDIR/run" root.md | tail -n 1
+  1 commands and files, 1 not as root.md shows them
+
 Its shell sees neither the terminal nor the directory nor the language of who runs it:
 
   $ cat >outside.md <<'END'

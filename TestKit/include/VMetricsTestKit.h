@@ -49,7 +49,8 @@ const unsigned long kFirstTick = 1700000000000UL;
 /// kFirstTick.
 /// The catalogue becomes what it was at the first call of Reset: a metric type that was registered
 /// before stays, one that a test has registered is gone. Steps that were started and not ended
-/// cannot be taken back: give each test transaction IDs of its own.
+/// cannot be taken back: give each test transaction IDs of its own. Where the library does not use
+/// the kit, as the program is linked, each check says so from then on.
 void Reset();
 
 /// Lets the clock stand at `tick`.

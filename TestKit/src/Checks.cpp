@@ -1,6 +1,7 @@
 #include <climits>
 #include <utility>
 
+#include "InUse.h"
 #include "VMetricsTestKit.h"
 
 namespace TestKit {
@@ -25,6 +26,9 @@ std::string Listed(const std::string& title, const std::vector<std::string>& lin
 
 /// What was written instead of what is missing.
 std::string WithMetricsLines(const std::string& title) {
+  if (std::string failure = NotInUse(); !failure.empty()) {
+    return failure;
+  }
   const std::vector<std::string> lines = MetricsLines();
   return lines.empty() ? title + "; no metrics line was written"
                        : Listed(title + "; written were:", lines);
@@ -62,7 +66,7 @@ std::string ExpectNoStep(const std::string& eventId, const std::string& stepName
   return step.found
              ? Listed("step " + Quoted(stepName) + " of event " + Quoted(eventId) + " has ended:",
                       {step.line})
-             : std::string();
+             : NotInUse();
 }
 
 StepCheck& StepCheck::Succeeded() { return ErrorCode(0); }
@@ -116,7 +120,7 @@ MetricCheck& MetricCheck::Arg(const std::string& name, const std::string& wanted
 
 MetricCheck& MetricCheck::Times(int wanted) {
   if (wanted == 0 && times_ == 0) {
-    failure_.clear();  // That there is none was all that could be wrong.
+    failure_ = NotInUse();  // That there is none was all else that could be wrong.
   }
   return Compare("number of reports", std::to_string(times_), std::to_string(wanted));
 }
@@ -131,7 +135,7 @@ MetricCheck& MetricCheck::Compare(const std::string& what, const std::string& ac
 
 std::string ExpectNoMetricsLines() {
   const std::vector<std::string> lines = MetricsLines();
-  return lines.empty() ? std::string() : Listed("metrics lines were written:", lines);
+  return lines.empty() ? NotInUse() : Listed("metrics lines were written:", lines);
 }
 
 std::string ExpectLogLine(int level, const std::string& message) {
@@ -139,6 +143,9 @@ std::string ExpectLogLine(int level, const std::string& message) {
     if (line.level == level && line.message == message) {
       return {};
     }
+  }
+  if (std::string failure = NotInUse(); !failure.empty()) {
+    return failure;
   }
   const std::string title =
       "no line of level " + std::to_string(level) + " says " + Quoted(message);
@@ -148,7 +155,7 @@ std::string ExpectLogLine(int level, const std::string& message) {
 
 std::string ExpectNoLogLines(int level) {
   const std::vector<std::string> lines = ShownUpTo(level);
-  return lines.empty() ? std::string() : Listed("log lines were written:", lines);
+  return lines.empty() ? NotInUse() : Listed("log lines were written:", lines);
 }
 
 }  // namespace TestKit

@@ -4,6 +4,7 @@
 
 #include "FakePlatform.h"
 #include "FakePlatformState.h"
+#include "InUse.h"
 #include "ResetSettings.h"
 #include "VMetrics.h"
 #include "VMetricsTestKit.h"
@@ -34,6 +35,7 @@ void Reset() {
   const Catalogue& first = FirstCatalogue();
   VMetrics::GetMetricsMap() = first.metrics;
   VMetrics::GetMetricsStringMap() = first.events;
+  SeeWhetherInUse();
   FakePlatform::Reset();
   ResetSettings();
 }

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 
+#include "TemporaryDirectory.h"
 #include "TestKitTest.h"
 #include "VDateTime.h"
 
@@ -18,12 +19,15 @@ class StageTest : public TestKitTest {};
 TEST_F(StageTest, TheLibraryAsItIsShippedIsBelow) {
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
-  const bool hadFile = std::filesystem::exists("spanId");
+  const TemporaryDirectory directory;
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(directory.Path());
   Trace("place");
   VMetrics::InsertRecord(7, "t", "e", "s", "", 0);
+  std::filesystem::current_path(before);
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-  EXPECT_EQ(std::filesystem::exists("spanId"), hadFile);
+  EXPECT_TRUE(std::filesystem::is_empty(directory.Path()));
   EXPECT_EQ(TestKit::MetricsLines().size(), 1U);
   EXPECT_EQ(TestKit::LogLines().size(), 1U);
 }

@@ -56,6 +56,7 @@ fail:
   $ "$TESTDIR/run" --as-root root.md
   root.md: line 10: this-is-no-command
   fails with exit status 127, which the document does not show
+  *: this-is-no-command: command not found (glob)
   
   4 commands and files, 1 not as root.md shows them
   [1]
